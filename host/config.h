@@ -1,9 +1,9 @@
 // The host's configuration: whole numbers and texts by key.
 //
 // Whole numbers that are read by key:
-//   50p_timecode_type, 60p_timecode_type   1 (or anything else) plain 50 or 60 frame timecode; 2 slow timecode,
-//   two
-//                                          samples (fields) a frame; 3 each sample a frame of a 25 or 30 timecode
+//   50p_timecode_type, 60p_timecode_type   1 (or anything else) plain 50 or 60 frame timecode;
+//                                          2 slow timecode, two samples (fields) a frame;
+//                                          3 each sample a frame of a 25 or 30 frame timecode
 #pragma once
 
 #include "host/lightweight_string.h"

@@ -16,5 +16,5 @@ class tokeniser {
 
  private:
   struct state;
-  state* state_;
+  state* state_ = nullptr;
 };

@@ -1,0 +1,72 @@
+#include <mutex>
+#include <type_traits>
+
+#include "host/current_project.h"
+#include "host/output.h"
+#include "refhost/refhost.h"
+
+namespace {
+
+constinit std::mutex project_mutex;
+constinit refhost::project_settings current;
+static_assert(std::is_trivially_destructible_v<refhost::project_settings>);
+
+// Keeps nothing itself, so a reference to it stays good and says what holds now.
+class output_picture final : public OutputFormat::Details {
+ public:
+  Kiv::Image::ScanMode getScanMode() const override { return refhost::project().output_scan; }
+  Kiv::FrameRate getFrameRate() const override { return Kiv::CurrentProject::getOutputImageKIVFrameRate(); }
+};
+
+}  // namespace
+
+namespace refhost {
+
+project_settings project() {
+  std::scoped_lock const lock{project_mutex};
+  return current;
+}
+
+void set_project(project_settings const& settings) {
+  std::scoped_lock const lock{project_mutex};
+  current = settings;
+}
+
+}  // namespace refhost
+
+namespace Kiv {
+
+using refhost::project;
+
+// This host keeps no earlier revisions: each one answers as the current one.
+FrameRate CurrentProject::getFrameRate(int) { return project().frame_rate; }
+
+bool CurrentProject::getUseDropFrameTimecode() { return project().drop_frame; }
+
+double CurrentProject::getCelResolution() { return Kiv::getCelResolution(getFrameRate()); }
+
+FrameRate CurrentProject::getInCameraFilmSpeed() { return project().film_speed; }
+
+OutputFormat::Details const& CurrentProject::getOutputImageFormat(int) {
+  static auto const& picture = *new output_picture;  // never destroyed
+  return picture;
+}
+
+FrameRate CurrentProject::getOutputImageKIVFrameRate() {
+  auto const settings = project();
+  return settings.output_rate.value_or(settings.frame_rate);
+}
+
+bool CurrentProject::vidprojAudSyncIsPulledDown() { return project().audio_sync_pulled_down; }
+
+bool CurrentProject::outputFormatIsPulledDown() { return project().output_pulled_down; }
+
+// Options other than 1 have no meaning here and give no gearing.
+OutputGearing::OutputGearing(int option) {
+  if (option != 1) return;
+  auto const settings = project();
+  rate_ = settings.gearing_rate.value_or(settings.frame_rate);
+  use_pulldown_ = settings.gearing_pulldown;
+}
+
+}  // namespace Kiv

@@ -1,0 +1,146 @@
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "refhost/refhost.h"
+
+namespace {
+
+std::vector<refhost::settings_error> load(std::string const& text) {
+  std::istringstream in{text};
+  return refhost::load_settings(in);
+}
+
+TEST(SettingsFile, SetsEveryKey) {
+  refhost::project_guard const project{{}};
+  refhost::config_guard const number{"50p_timecode_type", std::nullopt};
+  refhost::config_guard const roll{"MediumRoll28,1", std::nullopt};
+  auto const errors = load(
+      "\xEF\xBB\xBF# an NTSC project\r\n"
+      "\r\n"
+      "project-rate=29.97\r\n"
+      "  drop-frame  =  Yes  \n"
+      "\tfilm-speed = 25\n"
+      "output-scan = lower-first\n"
+      "output-rate = 60000/1001\n"
+      "gearing-rate = 24\n"
+      "gearing-rate = code:99\n"
+      "gearing-pulldown = true\n"
+      "audio-sync-pulled-down = 1\n"
+      "output-pulled-down = no\n"
+      "config.50p_timecode_type = 2\n"
+      "config.MediumRoll28,1 = REV: 1 MediumRollId: 28,1 reelid: A=1#2");
+  ASSERT_TRUE(errors.empty()) << errors.front().message;
+  EXPECT_EQ(refhost::project(), (refhost::project_settings{
+                                    .frame_rate = Kiv::FrameRate_29_97,
+                                    .drop_frame = true,
+                                    .film_speed = Kiv::FrameRate_25,
+                                    .output_scan = Kiv::Image::ScanMode_interlaced_lower_first,
+                                    .output_rate = Kiv::FrameRate_59_94,
+                                    .gearing_rate = static_cast<Kiv::FrameRate>(99),
+                                    .gearing_pulldown = true,
+                                    .audio_sync_pulled_down = true,
+                                    .output_pulled_down = false,
+                                }));
+  EXPECT_EQ(config_int("50p_timecode_type", 1), 2);
+  EXPECT_EQ(refhost::config_text("MediumRoll28,1"), "REV: 1 MediumRollId: 28,1 reelid: A=1#2");
+}
+
+TEST(SettingsFile, ReportsEveryWrongLineAndChangesNothing) {
+  refhost::project_guard const project{{}};
+  auto const before = refhost::project();
+  auto const errors = load(
+      "project-rate = 25\n"
+      "drop-frame = maybe\n"
+      "# no = comment\n"
+      "speed\n"
+      "frame-rate = 25\n"
+      "config.new_key = 1\n"
+      "config. = 1\n"
+      "config.long = " +
+      std::string(1024, 'x') +
+      "\n"
+      "film-speed =");
+  struct {
+    int line;
+    char const* value;
+    char const* expected;
+  } const cases[] = {
+      {2, "drop-frame: 'maybe'", "expected yes, no, true, false, 1 or 0"},
+      {4, "'speed' has no '='", "expected key = value"},
+      {5, "'frame-rate' is no setting", "expected project-rate, drop-frame,"},
+      {7, "'config.'", "expected config.KEY"},
+      {8, "config.long: 'xxx", "expected at most 1023 characters"},
+      {9, "film-speed: ''", "expected a frame rate (24, 23.976,"},
+  };
+  ASSERT_EQ(errors.size(), std::size(cases));
+  for (std::size_t i = 0; i < errors.size(); ++i) {
+    EXPECT_EQ(errors[i].line, cases[i].line);
+    EXPECT_EQ(errors[i].message.find(cases[i].value), 0U) << errors[i].message;
+    EXPECT_NE(errors[i].message.find(cases[i].expected), std::string::npos) << errors[i].message;
+    EXPECT_LT(errors[i].message.size(), 300U) << "a long value is cut";
+  }
+  EXPECT_EQ(refhost::project(), before);
+  EXPECT_EQ(refhost::config_text("new_key"), std::nullopt);
+}
+
+TEST(SettingsFile, ReportsAnUnreadableStream) {
+  std::istringstream in{"project-rate = 25\n"};
+  in.setstate(std::ios::badbit);
+  EXPECT_EQ(refhost::load_settings(in).size(), 1U);
+}
+
+TEST(SetOption, ReadsRatesAsPeopleWriteThem) {
+  constexpr int refused = -1;
+  struct {
+    char const* text;
+    int code;
+  } const cases[] = {
+      // clang-format off
+      {"24", 1}, {"24.0", 1}, {"24.000", 1}, {"23.976", 2}, {"23.98", 2}, {"25.00", 3},
+      {"30", 4}, {"29.97", 5}, {"29.970", 5}, {"29.970029970029973", 5}, {"48", 6}, {"47.952", 7},
+      {"47.95", 7}, {"59.94", 10}, {"12.0", 35}, {"11.988", 36}, {"12.5", 37}, {"25/2", 37},
+      {"14.985", 39}, {"120.", 44}, {"119.88", 45}, {"240.00", 46}, {"239.76", 47}, {"24000/1001", 2},
+      {"48000/2002", 2}, {"24/1", 1}, {"code:5", 5}, {"CODE:-7", -7}, {"code:0", 0},
+      {"", refused}, {"23", refused}, {"13", refused}, {"24.003", refused}, {"23.9", refused},
+      {"0", refused}, {"-24", refused}, {"nan", refused}, {"2.4e1", refused}, {"24fps", refused},
+      {".", refused}, {"24 ", refused}, {"0/0", refused}, {"24/0", refused}, {"24/", refused},
+      {"-24/-1", refused}, {"code:", refused}, {"code:99999999999", refused}, {"project", refused}, {"1..5", refused},
+      // clang-format on
+  };
+  for (auto const& c : cases) {
+    refhost::project_guard const project{{.frame_rate = static_cast<Kiv::FrameRate>(refused)}};
+    auto const error = refhost::set_option("project-rate", c.text);
+    EXPECT_EQ(error.has_value(), c.code == refused) << c.text;
+    EXPECT_EQ(refhost::project().frame_rate, c.code) << c.text;
+  }
+}
+
+TEST(SetOption, ReadsScanModesAndTheProjectsRate) {
+  refhost::project_guard const project{{.output_rate = Kiv::FrameRate_25}};
+  struct {
+    char const* text;
+    int mode;
+  } const cases[] = {
+      {"upper-first", 1}, {"lower-first", 2}, {"Progressive", 3}, {"segmented", 4}, {"code:17", 17}};
+  for (auto const& c : cases) {
+    EXPECT_EQ(refhost::set_option("output-scan", c.text), std::nullopt);
+    EXPECT_EQ(refhost::project().output_scan, c.mode);
+  }
+  EXPECT_NE(refhost::set_option("output-scan", "interlaced"), std::nullopt);
+  EXPECT_EQ(refhost::set_option("output-rate", "project"), std::nullopt);
+  EXPECT_EQ(refhost::project().output_rate, std::nullopt);
+}
+
+TEST(SetOption, RefusesTextWithItsKeyForEverySettingListed) {
+  refhost::project_guard const project{{}};
+  for (auto const& known : refhost::setting_list()) {
+    auto const error = refhost::set_option(known.key, "?");
+    ASSERT_TRUE(error) << known.key;
+    EXPECT_EQ(*error, std::string{known.key} + ": '?' is wrong; expected " + known.expected);
+  }
+}
+
+}  // namespace

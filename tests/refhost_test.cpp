@@ -1,0 +1,224 @@
+#include "refhost/refhost.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <climits>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "host/cookie.h"
+#include "host/current_project.h"
+#include "host/os.h"
+#include "host/print.h"
+#include "host/tokeniser.h"
+
+namespace {
+
+Kiv::FrameRate code(int number) { return static_cast<Kiv::FrameRate>(number); }
+
+TEST(FrameRates, AnswerByCode) {
+  struct {
+    int code;
+    double fps;
+    double nominal;
+  } const cases[] = {
+      // clang-format off
+      {1, 24, 24}, {2, 23.976023976023978, 24},
+      {3, 25, 25}, {4, 30, 30},
+      {5, 29.97002997002997, 30}, {6, 48, 48},
+      {7, 47.952047952047955, 48}, {8, 50, 50},
+      {9, 60, 60}, {10, 59.94005994005994, 60},
+      {35, 12, 12}, {36, 11.988011988011989, 12},
+      {37, 12.5, 12.5}, {38, 15, 15},
+      {39, 14.985014985014985, 15}, {40, 20, 20},
+      {41, 80, 80}, {42, 90, 90},
+      {43, 100, 100}, {44, 120, 120},
+      {45, 119.88011988011988, 120}, {46, 240, 240},
+      {47, 239.76023976023976, 240},
+      // codes that stand for no rate of this host
+      {0, 24, 24}, {11, 24, 24}, {34, 24, 24}, {48, 24, 24}, {-1, 24, 24}, {INT_MIN, 24, 24},
+      {INT_MAX, 24, 24},
+      // clang-format on
+  };
+  for (auto const& c : cases) {
+    SCOPED_TRACE(c.code);
+    EXPECT_EQ(Kiv::getFramesPerSecond(code(c.code)), c.fps);
+    EXPECT_EQ(Kiv::getFrameDuration(code(c.code)), 1 / c.fps);
+    EXPECT_EQ(Kiv::getCelResolution(code(c.code)), 1 / c.fps);
+    EXPECT_EQ(Kiv::has1001Factor(code(c.code)), c.fps != c.nominal);
+    EXPECT_EQ(Kiv::getNonDecimatedFrameRate(code(c.code)), code(c.code));
+    for (auto const& out : cases)
+      EXPECT_EQ(Kiv::getEditResolutionFrameGearing(code(c.code), code(out.code)), out.nominal / c.nominal);
+  }
+}
+
+TEST(Project, GuardSetsAndRestores) {
+  auto const before = refhost::project();
+  {
+    refhost::project_settings settings{.frame_rate = Kiv::FrameRate_29_97,
+                                       .drop_frame = true,
+                                       .film_speed = Kiv::FrameRate_25,
+                                       .output_scan = Kiv::Image::ScanMode_interlaced_upper_first,
+                                       .output_rate = Kiv::FrameRate_59_94,
+                                       .gearing_rate = Kiv::FrameRate_30,
+                                       .gearing_pulldown = true,
+                                       .audio_sync_pulled_down = true,
+                                       .output_pulled_down = true};
+    refhost::project_guard const guard{settings};
+    EXPECT_EQ(Kiv::CurrentProject::getFrameRate(3), Kiv::FrameRate_29_97);
+    EXPECT_TRUE(Kiv::CurrentProject::getUseDropFrameTimecode());
+    EXPECT_EQ(Kiv::CurrentProject::getCelResolution(), 1001 / 30000.0);
+    EXPECT_EQ(Kiv::CurrentProject::getInCameraFilmSpeed(), Kiv::FrameRate_25);
+    EXPECT_EQ(Kiv::CurrentProject::getOutputImageFormat().getScanMode(),
+              Kiv::Image::ScanMode_interlaced_upper_first);
+    EXPECT_EQ(Kiv::CurrentProject::getOutputImageFormat().getFrameRate(), Kiv::FrameRate_59_94);
+    EXPECT_EQ(Kiv::CurrentProject::getOutputImageKIVFrameRate(), Kiv::FrameRate_59_94);
+    EXPECT_TRUE(Kiv::CurrentProject::vidprojAudSyncIsPulledDown());
+    EXPECT_TRUE(Kiv::CurrentProject::outputFormatIsPulledDown());
+    EXPECT_EQ(Kiv::OutputGearing{1}.getFrameRate(), Kiv::FrameRate_30);
+    EXPECT_TRUE(Kiv::OutputGearing{1}.getUsePulldown());
+    EXPECT_FALSE(Kiv::OutputGearing{2}.getUsePulldown());
+  }
+  EXPECT_EQ(refhost::project(), before);
+}
+
+TEST(Project, OutputAndGearingFollowTheProjectUnlessSet) {
+  refhost::project_guard const guard{{.frame_rate = Kiv::FrameRate_25}};
+  EXPECT_EQ(Kiv::CurrentProject::getOutputImageKIVFrameRate(), Kiv::FrameRate_25);
+  EXPECT_EQ(Kiv::OutputGearing{1}.getFrameRate(), Kiv::FrameRate_25);
+}
+
+TEST(Configuration, ReadsStrictWholeNumbers) {
+  struct {
+    char const* text;
+    int number;
+  } const cases[] = {
+      {"2", 2},
+      {"-3", -3},
+      {"007", 7},
+      {"2147483647", INT_MAX},
+      {"-2147483648", INT_MIN},
+      {"", 99},
+      {" 2", 99},
+      {"2 ", 99},
+      {"2147483648", 99},
+      {"99999999999999999999", 99},
+      {"+2", 99},
+      {"-", 99},
+      {"0x10", 99},
+      {"2.0", 99},
+      {"two", 99},
+  };
+  for (auto const& c : cases) {
+    refhost::config_guard const guard{"number", c.text};
+    EXPECT_EQ(config_int("number", 99), c.number) << '"' << c.text << '"';
+  }
+  EXPECT_EQ(config_int("number", 99), 99) << "no such key";
+  EXPECT_EQ(config_int(nullptr, 99), 99);
+}
+
+TEST(Configuration, GuardRestoresTextsAndAbsence) {
+  refhost::config_guard const outer{"key", "first"};
+  {
+    refhost::config_guard const changed{"key", "second"};
+    EXPECT_EQ(refhost::config_text("key"), "second");
+    refhost::config_guard const gone{"key", std::nullopt};
+    EXPECT_EQ(refhost::config_text("key"), std::nullopt);
+  }
+  EXPECT_EQ(refhost::config_text("key"), "first");
+  { refhost::config_guard const fresh{"other", ""}; }
+  EXPECT_EQ(refhost::config_text("other"), std::nullopt);
+}
+
+TEST(Configuration, CopiesTextsIntoTheBuffer) {
+  for (std::size_t length : {0U, 1U, 1022U, 1023U, 1024U, 5000U}) {
+    refhost::config_guard const guard{"text", std::string(length, 'x')};
+    std::array<char, configb::text_size + 1> buffer{};
+    buffer.fill('#');
+    ASSERT_EQ(refhost::configuration().in("text", buffer.data()), 0);
+    EXPECT_EQ(std::strlen(buffer.data()), std::min<std::size_t>(length, 1023));
+    EXPECT_EQ(buffer.back(), '#') << "past the buffer";
+  }
+  char untouched[] = "as it was";
+  EXPECT_NE(refhost::configuration().in("text", untouched), 0);
+  EXPECT_STREQ(untouched, "as it was");
+}
+
+std::vector<std::string> tokens(char const* text, char const* separators) {
+  tokeniser splitter{text, separators};
+  std::vector<std::string> result;
+  while (char const* token = splitter.next()) result.emplace_back(token);
+  EXPECT_EQ(splitter.next(), nullptr) << "stays at the end";
+  return result;
+}
+
+TEST(Tokeniser, SplitsAtRunsOfSeparators) {
+  struct {
+    char const* text;
+    char const* separators;
+    std::vector<std::string> tokens;
+  } const cases[] = {
+      {"REV: 1 MediumRollId: 28,1", ": ", {"REV", "1", "MediumRollId", "28,1"}},
+      {"  a   b ", " ", {"a", "b"}},
+      {"::a: :b", ": ", {"a", "b"}},
+      {"a b", "", {"a b"}},
+      {"a b", nullptr, {"a b"}},
+      {"\xE9t\xE9\xFF\x80 \x81", " \x80", {"\xE9t\xE9\xFF", "\x81"}},
+      {" : ", ": ", {}},
+      {"", " ", {}},
+      {nullptr, " ", {}},
+      {nullptr, nullptr, {}},
+  };
+  auto const before = refhost::allocator_statistics();
+  for (auto const& c : cases) EXPECT_EQ(tokens(c.text, c.separators), c.tokens) << (c.text ? c.text : "null");
+  EXPECT_EQ(refhost::allocator_statistics().live_blocks, before.live_blocks);
+}
+
+TEST(Tokeniser, KeepsItsOwnCopy) {
+  char text[] = "one two";
+  tokeniser splitter{text, " "};
+  std::memset(text, 'x', sizeof text - 1);
+  char const* first = splitter.next();
+  EXPECT_STREQ(splitter.next(), "two");
+  EXPECT_STREQ(first, "one");
+}
+
+TEST(Allocator, CountsBlocks) {
+  auto& allocator = OS().allocator();
+  auto const before = refhost::allocator_statistics();
+  void* empty = allocator.allocate(0);
+  void* block = allocator.allocate(100);
+  EXPECT_NE(empty, nullptr);
+  EXPECT_EQ(refhost::allocator_statistics(),
+            (refhost::allocator_counts{before.live_blocks + 2, before.allocations + 2}));
+  allocator.free(empty);
+  allocator.free(block);
+  allocator.free(nullptr);
+  EXPECT_EQ(refhost::allocator_statistics(),
+            (refhost::allocator_counts{before.live_blocks, before.allocations + 2}));
+}
+
+TEST(Cookie, OfNoMaterialIsNotTheDefaultOne) { EXPECT_NE(invalid_cookie, Cookie{}); }
+
+TEST(DiagnosticPrint, GoesToTheSinkOfTheInnermostGuard) {
+  std::string outer, inner;
+  refhost::diagnostic_guard const capture{[&](std::string_view text) { outer += text; }};
+  diagnostic_print("%d of %s\n", 1, "2");
+  {
+    refhost::diagnostic_guard const nested{[&](std::string_view text) { inner += text; }};
+    diagnostic_print("%s", std::string(5000, 'x').c_str());
+  }
+  diagnostic_print("back");
+  EXPECT_EQ(outer, "1 of 2\nback");
+  EXPECT_EQ(inner, std::string(5000, 'x'));
+
+  refhost::diagnostic_guard const standard_error{nullptr};
+  testing::internal::CaptureStderr();
+  diagnostic_print("WARNING: %d%%\n", 100);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "WARNING: 100%\n");
+}
+
+}  // namespace
