@@ -1,0 +1,18 @@
+# The installed package: find_package(labelsbase) gives the targets labelsbase::labelsbase, labels_host, refhost
+# and labelcheck.
+
+include(CMakePackageConfigHelpers)
+
+set(labelsbase_include_dir "${CMAKE_INSTALL_INCLUDEDIR}/labelsbase-${PROJECT_VERSION_MAJOR}")
+set(labelsbase_cmake_dir "${CMAKE_INSTALL_LIBDIR}/cmake/labelsbase")
+
+install(TARGETS labels_host labelsbase refhost
+        EXPORT labelsbaseTargets
+        FILE_SET HEADERS DESTINATION "${labelsbase_include_dir}")
+
+install(EXPORT labelsbaseTargets NAMESPACE labelsbase:: DESTINATION "${labelsbase_cmake_dir}")
+configure_package_config_file(cmake/labelsbaseConfig.cmake.in labelsbaseConfig.cmake
+                              INSTALL_DESTINATION "${labelsbase_cmake_dir}")
+write_basic_package_version_file(labelsbaseConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES "${PROJECT_BINARY_DIR}/labelsbaseConfig.cmake" "${PROJECT_BINARY_DIR}/labelsbaseConfigVersion.cmake"
+        DESTINATION "${labelsbase_cmake_dir}")

@@ -1,0 +1,11 @@
+// Label types, templates, converters and their registry: the whole module.
+#pragma once
+
+#include "labelsbase/labelcvt/label_cvt.h"
+#include "labelsbase/labelcvt/label_point.h"
+#include "labelsbase/labelcvt/label_template.h"
+#include "labelsbase/labelcvt/label_types.h"
+#include "labelsbase/labelcvt/registry.h"
+#include "labelsbase/labelcvt/timecode.h"
+#include "labelsbase/samples.h"
+#include "labelsbase/version.h"

@@ -1,0 +1,58 @@
+// The names of label types in edit decision lists.
+
+#include <algorithm>
+#include <string_view>
+
+#include "labelsbase/labelcvt/label_rows.h"
+#include "labelsbase/labelcvt/label_types.h"
+#include "labelsbase/support/text.h"
+
+using namespace labelsbase;
+
+namespace {
+
+// The first type, in table order, whose `column` is `code`.
+label_t first_type_with(char const* label_row::*column, std::string_view code) noexcept {
+  auto const* const row =
+      std::ranges::find_if(label_rows, [&](label_row const& r) { return r.*column && code == r.*column; });
+  return row == std::end(label_rows) ? null_label_t : row->type;
+}
+
+}  // namespace
+
+char const* label_type_to_edlstr(label_t type) noexcept {
+  auto const* const name = row_of(type).edl_out;
+  return name ? name : "BAD";
+}
+
+label_t edlstr_to_label_type(char const* text) noexcept {
+  if (!text || !*text) return null_label_t;
+
+  char code[11];
+  std::size_t length = 0;
+  for (; length < sizeof code && text[length] && !is_blank(text[length]); ++length)
+    code[length] = to_upper(text[length]);
+
+  label_t const type = first_type_with(&label_row::edl_in, {code, length});
+  return type ? type : first_type_with(&label_row::edl_in_long, {code, length});
+}
+
+label_t edlstr_to_label_type(char const* text, UserLabelType family) noexcept {
+  label_t const type = edlstr_to_label_type(text);
+  switch (family) {
+    case User_feet:
+      return label_t_to_foot_label_t(type);
+    case User_ink:
+      return label_t_to_ink_label_t(type);
+    case User_keycode:
+      return label_t_to_key_label_t(type);
+    default:
+      return null_label_t;
+  }
+}
+
+label_t edlstr_to_film_label_type(char const* text) noexcept {
+  label_t const type = edlstr_to_label_type(text);
+  bool const has_converter = type != keycode_label_t;
+  return user_label_type(type) == User_keycode && has_converter ? type : null_label_t;
+}

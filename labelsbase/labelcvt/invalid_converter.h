@@ -1,0 +1,18 @@
+// The invalid converter that all points and the registry share.
+#pragma once
+
+#include "labelsbase/labelcvt/label_cvt.h"
+
+namespace labelsbase {
+
+// Built by the compiler and never destroyed, so it serves the static objects of host and library in any order.
+union invalid_converter_storage {
+  dummy_label converter;
+
+  constexpr invalid_converter_storage() noexcept : converter{} {}
+  ~invalid_converter_storage() {}  // NOLINT(modernize-use-equals-default): a default one would be deleted
+};
+
+extern constinit invalid_converter_storage invalid_converter;
+
+}  // namespace labelsbase

@@ -1,0 +1,6 @@
+// Label points and labels: the whole module.
+#pragma once
+
+#include "labelsbase/labelcvt.h"
+#include "labelsbase/labelcvt/label_point.h"
+#include "labelsbase/labels/label.h"

@@ -1,0 +1,123 @@
+// Text of labels, written and read a field at a time: no locale, no format strings, no allocation.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <optional>
+
+#include "labelsbase/support/integers.h"
+
+namespace labelsbase {
+
+[[nodiscard]] constexpr char const* or_empty(char const* text) noexcept { return text ? text : ""; }
+
+[[nodiscard]] constexpr bool is_digit(char c) noexcept { return c >= '0' && c <= '9'; }
+[[nodiscard]] constexpr bool is_upper(char c) noexcept { return c >= 'A' && c <= 'Z'; }
+[[nodiscard]] constexpr bool is_lower(char c) noexcept { return c >= 'a' && c <= 'z'; }
+[[nodiscard]] constexpr bool is_alphanumeric(char c) noexcept { return is_digit(c) || is_upper(c) || is_lower(c); }
+[[nodiscard]] constexpr bool is_blank(char c) noexcept { return c == ' ' || (c >= '\t' && c <= '\r'); }
+[[nodiscard]] constexpr char to_upper(char c) noexcept { return is_lower(c) ? static_cast<char>(c - 32) : c; }
+
+// Writes into a buffer of a fixed size: never past its end, always terminated. What does not fit is dropped.
+class text_writer {
+ public:
+  template <std::size_t size>
+  explicit constexpr text_writer(char (&buffer)[size]) noexcept : text_writer{buffer, size} {}
+
+  // `size` counts the terminator and is at least 1.
+  constexpr text_writer(char* buffer, std::size_t size) noexcept
+      : begin_{buffer}, next_{buffer}, last_{buffer + size - 1} {
+    *next_ = '\0';
+  }
+
+  constexpr text_writer& put(char c) noexcept {
+    if (next_ == last_) return *this;
+    *next_++ = c;
+    *next_ = '\0';
+    return *this;
+  }
+
+  constexpr text_writer& put(char const* text) noexcept {
+    for (; *text; ++text) put(*text);
+    return *this;
+  }
+
+  // As "%0*d" writes a number at a width: the sign counts, and wider numbers are written whole.
+  constexpr text_writer& number(int value, int width = 0) noexcept {
+    return signed_digits(value, width - (value < 0));
+  }
+
+  // As "%.*d": a sign, then at least so many digits.
+  constexpr text_writer& signed_digits(int value, int digits) noexcept {
+    char reversed[10];
+    int count = 0;
+    auto rest = value < 0 ? 0U - static_cast<unsigned>(value) : static_cast<unsigned>(value);
+    do {
+      reversed[count++] = static_cast<char>('0' + rest % 10);
+      rest /= 10;
+    } while (rest != 0);
+
+    if (value < 0) put('-');
+    for (int zeros = digits - count; zeros > 0; --zeros) put('0');
+    while (count > 0) put(reversed[--count]);
+    return *this;
+  }
+
+  [[nodiscard]] constexpr char const* c_str() const noexcept { return begin_; }
+  [[nodiscard]] constexpr std::size_t length() const noexcept { return static_cast<std::size_t>(next_ - begin_); }
+
+ private:
+  char* begin_;
+  char* next_;
+  char* last_;
+};
+
+// Reads a text as the scanf family does, a conversion at a time.
+class text_reader {
+ public:
+  explicit constexpr text_reader(char const* text) noexcept : next_{or_empty(text)} {}
+
+  // As "%d", or "%2d" with a width of 2: blanks are skipped, a sign is accepted and counts in the width. Numbers
+  // too large for 64 bits stop at the largest, and the low 32 bits are kept. Nothing when no digit follows.
+  constexpr std::optional<int> number(int width = std::numeric_limits<int>::max()) noexcept {
+    skip_blanks();
+    bool const negative = *next_ == '-';
+    if (negative || *next_ == '+') {
+      ++next_;
+      --width;
+    }
+    if (width <= 0 || !is_digit(*next_)) return {};
+
+    constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
+    std::uint64_t const limit = negative ? largest + 1 : largest;
+    std::uint64_t value = 0;
+    for (; width > 0 && is_digit(*next_); --width, ++next_) {
+      auto const digit = static_cast<std::uint64_t>(*next_ - '0');
+      value = value > (limit - digit) / 10 ? limit : value * 10 + digit;
+    }
+    return wrap_to_int(negative ? 0 - value : value);
+  }
+
+  // As "%c": any one character; nothing at the end of the text.
+  constexpr std::optional<char> character() noexcept {
+    if (!*next_) return {};
+    return *next_++;
+  }
+
+  // One given character, without skipping blanks.
+  constexpr bool literal(char c) noexcept {
+    if (*next_ != c || !c) return false;
+    ++next_;
+    return true;
+  }
+
+  constexpr void skip_blanks() noexcept {
+    while (is_blank(*next_)) ++next_;
+  }
+
+ private:
+  char const* next_;
+};
+
+}  // namespace labelsbase

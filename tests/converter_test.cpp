@@ -1,0 +1,158 @@
+// Converters as such: the registry, the factory, the invalid converter and those of a host.
+
+#include <cxxabi.h>
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cstdlib>
+#include <memory>
+#include <string>
+#include <thread>
+#include <typeinfo>
+#include <vector>
+
+#include "labelsbase/labels.h"
+#include "refhost/refhost.h"
+
+namespace {
+
+label_t type(int value) { return static_cast<label_t>(value); }
+
+std::string class_name(label_cvt const& cvt) {
+  std::unique_ptr<char, decltype(&std::free)> const name{
+      abi::__cxa_demangle(typeid(cvt).name(), nullptr, nullptr, nullptr), &std::free};
+  return name.get();
+}
+
+bool has_labels(int t) { return (t >= 5 && t <= 8) || t == 20 || t == 31 || t == 32 || (t >= 42 && t <= 51); }
+
+TEST(Registry, HoldsTheClassOfEveryType) {
+  for (int t = 0; t < numLabelCvts; ++t) {
+    auto const& cvt = *get_static_label_cvt(type(t));
+    EXPECT_EQ(class_name(cvt), cvt.type_str());
+    EXPECT_EQ(cvt.type(), has_labels(t) ? t : dummy_label_t);
+    EXPECT_EQ(get_label_type(cvt.type_str()), has_labels(t) ? t : 0);
+    EXPECT_EQ(&cvt, get_static_label_cvt(has_labels(t) ? type(t) : null_label_t));
+  }
+}
+
+TEST(Registry, FindsNamesInExactCase) {
+  EXPECT_EQ(get_label_type("tc_60_label"), tc_60_label_t);
+  for (char const* name :
+       {"TC_60_LABEL", "dummy_label", "keycode_label", "tc_60_labels", "", static_cast<char const*>(nullptr)})
+    EXPECT_EQ(get_label_type(name), 0);
+}
+
+TEST(Registry, RefusesTypesOutOfRangeAloud) {
+  for (int t : {52, -1, INT_MIN, INT_MAX}) {
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(get_static_label_cvt(type(t)), get_static_label_cvt(null_label_t));
+    std::string const said = testing::internal::GetCapturedStdout();
+    EXPECT_EQ(said.find("assertion failed false at labelsbase/labelcvt line "), 0U) << said;
+  }
+}
+
+TEST(Registry, AnswersThreadsAlike) {
+  std::vector<std::thread> threads;
+  std::vector<label_cvt*> found(8);
+  for (auto& answer : found) threads.emplace_back([&answer] { answer = get_static_label_cvt(pal_label_t); });
+  for (auto& thread : threads) thread.join();
+  for (auto* answer : found) EXPECT_EQ(answer, get_static_label_cvt(pal_label_t));
+}
+
+TEST(Factory, MakesConvertersThatTheCallerOwns) {
+  (void)get_static_label_cvt(null_label_t);
+  for (int t : {-1, 0, 1, 3, 4, 5, 7, 9, 13, 17, 32, 51, 52}) {
+    auto const before = refhost::allocator_statistics().live_blocks;
+    int const live = label_cvt::howmany;
+    {
+      std::unique_ptr<label_cvt> const cvt{make_any_label_cvt(type(t))};
+      EXPECT_EQ(cvt->type(), has_labels(t) ? t : dummy_label_t);
+      EXPECT_EQ(label_cvt::howmany, live + 1);
+      EXPECT_GT(refhost::allocator_statistics().live_blocks, before);
+      char const* const shape = has_labels(t) ? get_static_label_cvt(type(t))->get_template(true).text() : "";
+      EXPECT_STREQ(cvt->get_template(true).text(), shape);
+    }
+    EXPECT_EQ(label_cvt::howmany, live);
+    EXPECT_EQ(refhost::allocator_statistics().live_blocks, before);
+  }
+}
+
+TEST(InvalidConverter, TurnsEverythingIntoItsSentinels) {
+  std::unique_ptr<label_cvt> const cvt{make_any_label_cvt(foot_label_t)};
+  LabelPoint point{*cvt, 5};
+  EXPECT_STREQ(cvt->get_string(&point, 1), "???");
+  EXPECT_STREQ(cvt->get_abs_string(&point, 1), "???");
+  EXPECT_STREQ(cvt->get_perfs_string(&point, 1), "??");
+  EXPECT_STREQ(cvt->get_abs_perfs_string(&point, 1), "");
+  EXPECT_EQ(cvt->get_smpte_string(&point, 1), 0U);
+  EXPECT_EQ(cvt->get_sample(&point, "1"), -100'000'000);
+  EXPECT_EQ(cvt->get_sample(&point, 1), -100'000'000);
+  EXPECT_EQ(cvt->get_abs_sample("1"), -100'000'000);
+  EXPECT_EQ(cvt->get_keep_sample("1"), -100'000'000);
+  EXPECT_EQ(cvt->get_abs_sample(1.0), -100'000'000);
+  EXPECT_EQ(cvt->get_V2tc(1), 1e99);
+  EXPECT_STREQ(cvt->get_template(true).text(), "");
+}
+
+TEST(RelativeOperations, StandOnThePoint) {
+  LabelPoint point{pal_label_t, 90'000};
+  auto& cvt = *point.cvt();
+  EXPECT_STREQ(cvt.get_string(&point, 25), " 01:00:01.00");
+  EXPECT_EQ(cvt.get_smpte_string(&point, 1), 0x01000001U);
+  EXPECT_EQ(cvt.get_sample(&point, "01:00:01.00"), 25);
+  EXPECT_EQ(cvt.get_sample(&point, -1), 89'999);
+  point.sample = INT_MAX;
+  EXPECT_EQ(cvt.get_sample(&point, 1), INT_MIN);
+}
+
+TEST(NullPoint, IsSampleZeroWithoutABuffer) {
+  auto& cvt = *get_static_label_cvt(pal_label_t);
+  EXPECT_STREQ(cvt.get_string(nullptr, 25), "");
+  EXPECT_STREQ(cvt.get_abs_string(nullptr, -100'000'000), "???.??.??.??");
+  EXPECT_EQ(cvt.get_sample(nullptr, "00:00:01.00"), 25);
+  EXPECT_EQ(cvt.get_smpte_string(nullptr, 25), 0x100U);
+}
+
+TEST(Conversions, AllocateNothing) {
+  std::vector<LabelPoint> points;
+  for (int t = 0; t < numLabelCvts; ++t) points.emplace_back(type(t), 1234);
+  auto const before = refhost::allocator_statistics();
+  for (auto& point : points) {
+    auto& cvt = *point.cvt();
+    for (int sample : {0, 1, -1, 99'999, -100'000'000, 100'000'001, 100'000'002, INT_MIN, INT_MAX}) {
+      point.sample = sample;
+      (void)cvt.get_abs_sample(point.get_string());
+      (void)cvt.get_abs_smpte_string(&point, sample);
+    }
+    LabelPoint const copy = point;
+    EXPECT_TRUE(copy == point);
+  }
+  EXPECT_EQ(refhost::allocator_statistics(), before);
+}
+
+// A type of the host's own.
+class counting_label : public variable_label {
+ public:
+  counting_label() : variable_label{10, 2} {}
+  char const* get_abs_string(LabelPoint* point, int sample) override {
+    point->text[0] = static_cast<char>('a' + sample % 26);
+    point->text[1] = '\0';
+    return point->text;
+  }
+};
+
+TEST(HostConverter, DerivesFromTheLibrarysAndReturnsToItsAllocator) {
+  auto const before = refhost::allocator_statistics().live_blocks;
+  std::unique_ptr<label_cvt> const cvt = std::make_unique<counting_label>();
+  EXPECT_EQ(refhost::allocator_statistics().live_blocks, before + 1);
+  LabelPoint point{*cvt, 2};
+  EXPECT_STREQ(cvt->get_string(&point, 1), "d");
+  EXPECT_STREQ(cvt->type_str(), "variable_label");
+  unsigned packed = 0x00000105;
+  bool drop = false;
+  EXPECT_EQ(cvt->get_samples_from_SMPTETc(packed, drop), (10 + 5) * 2);
+  EXPECT_EQ(cvt->get_abs_sample("5"), 0);
+}
+
+}  // namespace

@@ -1,0 +1,40 @@
+// Whose memory is whose.
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <new>
+#include <string>
+
+#include "labelsbase/labels.h"
+#include "refhost/refhost.h"
+
+namespace {
+
+TEST(Memory, OfTheLibraryComesFromTheHost) {
+  auto const before = refhost::allocator_statistics();
+  std::unique_ptr<label_cvt> cvt{make_any_label_cvt(pal_label_t)};
+  auto const with_converter = refhost::allocator_statistics();
+  EXPECT_GT(with_converter.live_blocks, before.live_blocks);
+  cvt.reset();
+  EXPECT_EQ(refhost::allocator_statistics().live_blocks, before.live_blocks);
+}
+
+TEST(Memory, OfTheProgramStaysItsOwn) {
+  auto const before = refhost::allocator_statistics();
+  auto const number = std::make_unique<int>(5);
+  std::string const text(1000, 'x');
+  std::unique_ptr<char[]> const characters{new (std::nothrow) char[100]};
+  EXPECT_EQ(refhost::allocator_statistics(), before);
+  EXPECT_TRUE(number && characters && text.size() == 1000);
+}
+
+TEST(Memory, ThatTheHostDoesNotHaveIsBadAlloc) {
+  auto const more_than_there_is = static_cast<std::size_t>(-1) / 2;
+  EXPECT_THROW((void)label_cvt::operator new(more_than_there_is), std::bad_alloc);
+  label_cvt::operator delete(nullptr);
+}
+
+TEST(Version, IsTheOneThatHostsAskFor) { EXPECT_STREQ(labelsBaseDllVersionStr(), "14.5.0.0"); }
+
+}  // namespace

@@ -1,0 +1,114 @@
+// Reading and writing of text, held against the C library.
+
+#include "labelsbase/support/text.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cmath>
+#include <cstdio>
+#include <random>
+#include <string>
+
+#include "labelsbase/labelcvt/reciprocal.h"
+
+namespace {
+
+using labelsbase::text_reader;
+using labelsbase::text_writer;
+
+TEST(TextReader, ReadsNumbersAsScanfDoes) {
+  std::string const alphabet = "0123456789+- \t\v:.x\xE9";
+  std::mt19937 random{1};
+  for (int i = 0; i < 200'000; ++i) {
+    std::string text;
+    auto const length = random() % 28;
+    auto const digits_only = random() % 2 == 0;
+    for (unsigned k = 0; k < length; ++k) text += alphabet[random() % (digits_only ? 13 : alphabet.size())];
+
+    struct {
+      char const* format;
+      int width;
+    } const conversions[] = {{"%d%n", INT_MAX}, {"%2d%n", 2}, {"%3d%n", 3}};
+    for (auto const& conversion : conversions) {
+      int expected = 0, end = 0;
+      bool const readable = std::sscanf(text.c_str(), conversion.format, &expected, &end) == 1;
+      text_reader reader{text.c_str()};
+      auto const number = reader.number(conversion.width);
+      ASSERT_EQ(number.has_value(), readable) << '"' << text << "\" as " << conversion.format;
+      if (!readable) continue;
+      ASSERT_EQ(*number, expected) << '"' << text << "\" as " << conversion.format;
+      auto const next = text[static_cast<std::size_t>(end)];
+      auto const rest = reader.character();
+      ASSERT_EQ(rest.value_or('\0'), next) << '"' << text << "\" as " << conversion.format;
+    }
+  }
+}
+
+TEST(TextReader, KeepsTheLowBitsOfSaturatedNumbers) {
+  struct {
+    char const* text;
+    int value;
+  } const cases[] = {
+      {"2147483648", INT_MIN},         {"4294967296", 0},           {"9223372036854775807", -1},
+      {"9223372036854775808", -1},     {"-9223372036854775808", 0}, {"-99999999999999999999999", 0},
+      {"99999999999999999999999", -1}, {"-2147483649", INT_MAX},
+  };
+  for (auto const& c : cases) EXPECT_EQ(text_reader{c.text}.number(), c.value) << c.text;
+  EXPECT_EQ(text_reader{nullptr}.number(), std::nullopt);
+}
+
+TEST(TextWriter, WritesNumbersAsPrintfDoes) {
+  std::mt19937 random{2};
+  for (int i = 0; i < 20'000; ++i) {
+    int const value = i < 300 ? i - 150 : static_cast<int>(random()) >> (random() % 31);
+    int const width = static_cast<int>(random() % 14);
+    char expected[32], written[32];
+    std::snprintf(expected, sizeof expected, "%0*d", width, value);
+    text_writer{written}.number(value, width);
+    ASSERT_STREQ(written, expected);
+  }
+}
+
+TEST(TextWriter, NeverWritesPastItsBuffer) {
+  char buffer[8] = "......!";
+  text_writer out{buffer, 6};
+  out.put("abc").number(-12345, 9).put('x');
+  EXPECT_STREQ(buffer, "abc-0");
+  EXPECT_EQ(buffer[6], '!');
+  EXPECT_EQ(out.length(), 5U);
+}
+
+TEST(Integers, WrapAt32Bits) {
+  EXPECT_EQ(labelsbase::wrap_add(INT_MAX, 1), INT_MIN);
+  EXPECT_EQ(labelsbase::wrap_sub(INT_MIN, 1), INT_MAX);
+  EXPECT_EQ(labelsbase::wrap_mul(65'536, 65'536), 0);
+  EXPECT_EQ(labelsbase::wrap_negate(INT_MIN), INT_MIN);
+}
+
+TEST(Integers, DoublesThatDoNotFitAreTheInvalidSample) {
+  struct {
+    double value;
+    int sample;
+  } const cases[] = {
+      {2147483647.9, INT_MAX},   {2147483648.0, -100'000'000},
+      {-2147483648.9, INT_MIN},  {-2147483649.0, -100'000'000},
+      {1e99, -100'000'000},      {NAN, -100'000'000},
+      {-INFINITY, -100'000'000}, {-0.9, 0},
+  };
+  for (auto const& c : cases) EXPECT_EQ(labelsbase::to_int(c.value), c.sample) << c.value;
+}
+
+TEST(Reciprocal, DividesExactly) {
+  std::mt19937 random{3};
+  for (int divisor = 1; divisor <= 4096; ++divisor) {
+    labelsbase::reciprocal const per{divisor};
+    for (int i = 0; i < 200; ++i) {
+      int const near_multiple = static_cast<int>(random() % (1U << 26)) / divisor * divisor - i % 2;
+      int const dividend = i == 0 ? (1 << 26) - 1 : std::max(near_multiple, 0);
+      ASSERT_EQ(per.quotient(dividend), dividend / divisor) << dividend << " / " << divisor;
+    }
+  }
+}
+
+}  // namespace

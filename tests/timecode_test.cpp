@@ -1,0 +1,151 @@
+// Arithmetic of timecode.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <climits>
+#include <memory>
+#include <string>
+
+#include "labelsbase/labels.h"
+#include "refhost/refhost.h"
+#include "tests/host_converters.h"
+
+namespace {
+
+using hmsf = std::array<int, 4>;
+
+TEST(DropFrame, AgreesWithCountingLabelsOneByOne) {
+  open_timecode<ntsc_drop_label> drop{15};
+  int hour = 0, minute = 0, second = 0, frame = 0;
+  for (int sample = 0; sample < 24 * 107'892; ++sample) {
+    ASSERT_EQ(drop.split(sample), (hmsf{hour, minute, second, frame})) << sample;
+    ASSERT_EQ(drop.hmsf_to_sample(), sample);
+    if (++frame < 30) continue;
+    frame = 0;
+    if (++second < 60) continue;
+    second = 0;
+    minute = (minute + 1) % 60;
+    if (minute == 0) ++hour;
+    if (minute % 10 != 0) frame = 2;
+  }
+  EXPECT_EQ(hour, 24);
+}
+
+TEST(DropFrame, LabelsLeftOutAreTheLastSamplesOfTheMinuteBefore) {
+  open_timecode<ntsc_drop_label> drop{15};
+  struct {
+    hmsf label;
+    int sample;
+  } const cases[] = {
+      {{0, 1, 0, 0}, 1798},
+      {{0, 1, 0, 1}, 1799},
+      {{0, 1, 0, 2}, 1800},
+      {{0, 10, 0, 0}, 17'982},
+      {{0, 1, 61, 0}, 1798 + 1830},  // no field is held against its range
+      {{0, 61, 0, 2}, 107'892 + 1800},
+      {{0, -1, 5, 0}, -1798 + 28 + 4 * 30},  // minutes below zero take the labels of a short minute
+      {{0, -1, 0, 7}, -1798 + 7 - 2},
+  };
+  for (auto const& c : cases) EXPECT_EQ(drop.join(c.label), c.sample) << testing::PrintToString(c.label);
+}
+
+TEST(Split, WrapsAtMidnightOnce) {
+  open_timecode<pal_label> pal{15};
+  open_timecode<ntsc_drop_label> drop{15};
+  struct {
+    int sample;
+    hmsf pal, drop;
+  } const cases[] = {
+      {-1, {23, 59, 59, 24}, {23, 59, 59, 29}},
+      {2'589'408, {4, 46, 16, 8}, {0, 0, 0, 0}},
+      {2'160'000, {0, 0, 0, 0}, {20, 1, 12, 2}},
+      {-3'000'000, {-9, -20, 0, 0}, {-3, -40, -499, -18}},  // further below, one day is added and no more
+      {INT_MIN, {-23'836, -55, -45, -23}, {-19'880, 0, -42, -20}},
+      {INT_MAX, {4, 55, 45, 22}, {8, 0, 42, 19}},
+  };
+  for (auto const& c : cases) {
+    EXPECT_EQ(pal.split(c.sample), c.pal) << c.sample;
+    EXPECT_EQ(drop.split(c.sample), c.drop) << c.sample;
+  }
+}
+
+TEST(Normalise, KeepsAWholeDay) {
+  auto& pal = *get_static_label_cvt(pal_label_t);
+  struct {
+    int sample, normal;
+  } const cases[] = {
+      {0, 0},          {2'160'000, 2'160'000}, {2'160'001, 1},          {4'320'000, 2'160'000},
+      {-1, 2'159'999}, {-2'160'000, 0},        {-2'160'001, 2'159'999}, {1, 1},
+  };
+  for (auto const& c : cases) EXPECT_EQ(pal.normalise_sample_unit(c.sample), c.normal) << c.sample;
+
+  for (int t = 5; t < numLabelCvts; ++t) {
+    auto& cvt = *get_static_label_cvt(static_cast<label_t>(t));
+    if (cvt.UserType() != User_timecode) continue;
+    auto const day = dynamic_cast<timecode_label&>(cvt).samples_per_day();
+    for (int sample : {INT_MIN, INT_MIN + 1, -day - 1, -day, day, day + 1, 7 * day, INT_MAX}) {
+      int const normal = cvt.normalise_sample_unit(sample);
+      EXPECT_TRUE(normal >= 0 && normal <= day) << sample;
+      EXPECT_EQ((static_cast<long long>(normal) - sample) % day, 0) << sample;
+    }
+  }
+}
+
+TEST(SlowTimecode, FollowsTheSettingAtConstruction) {
+  struct {
+    label_t type;
+    char const* key;
+    char const* setting;
+    int fps;
+    bool slow;
+    char const* text_of_7;
+  } const cases[] = {
+      {tc_60_label_t, "60p_timecode_type", "2", 30, true, " 00:00:00:03"},
+      {tc_60_label_t, "60p_timecode_type", "3", 30, false, " 00:00:00.07"},
+      {tc_60_label_t, "60p_timecode_type", "1", 60, false, " 00:00:00.07"},
+      {tc_60_label_t, "50p_timecode_type", "2", 60, false, " 00:00:00.07"},
+      {tc_50_label_t, "50p_timecode_type", "2", 25, true, " 00:00:00:03"},
+      {tc_50_label_t, "50p_timecode_type", "-9", 50, false, " 00:00:00.07"},
+      {tc_50_duration_label_t, "50p_timecode_type", "2", 50, false, " 00:00:00.07"},
+  };
+  for (auto const& c : cases) {
+    refhost::config_guard const setting{c.key, c.setting};
+    std::unique_ptr<label_cvt> const cvt{make_any_label_cvt(c.type)};
+    EXPECT_EQ(cvt->get_modulus(), c.fps) << c.key << c.setting;
+    EXPECT_EQ(cvt->isSpecialSlowTC(), c.slow);
+    LabelPoint point{*cvt, 7};
+    EXPECT_STREQ(point.get_string(), c.text_of_7);
+  }
+}
+
+TEST(SlowTimecode, TwoFieldsMakeAFrame) {
+  refhost::config_guard const setting{"60p_timecode_type", "2"};
+  std::unique_ptr<label_cvt> const cvt{make_any_label_cvt(tc_60_label_t)};
+  LabelPoint point{*cvt, 0};
+  struct {
+    int sample;
+    char const* text;
+  } const cases[] = {
+      {0, " 00:00:00.00"},  {1, " 00:00:00:00"},         {60, " 00:00:01.00"},        {-1, "-00:00:00:00"},
+      {-3, "-00:00:00:01"}, {5'183'999, " 23:59:59:29"}, {5'184'000, " 00:00:00.00"},
+  };
+  for (auto const& c : cases) EXPECT_STREQ(cvt->get_abs_string(&point, c.sample), c.text) << c.sample;
+  EXPECT_EQ(cvt->get_abs_sample("00:00:01.03"), 33);  // a count of frames, not of fields
+}
+
+TEST(Deprecated, EntryPointsAnswerAndSaySo) {
+  auto& ntsc = *get_static_label_cvt(ntsc_label_t);
+  testing::internal::CaptureStdout();
+  EXPECT_EQ(ntsc.get_abs_sample(1.0), 29);
+  EXPECT_EQ(ntsc.get_abs_sample(1e99), -100'000'000);
+  EXPECT_EQ(ntsc.get_abs_sample(-1.0), -30);
+  EXPECT_EQ(get_static_label_cvt(tc_24_label_t)->get_V2tc(48), 48.0);
+  EXPECT_EQ(get_static_label_cvt(pal_label_t)->get_V2tc(-50), -2.0);
+  std::string const said = testing::internal::GetCapturedStdout();
+  EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 5);
+  EXPECT_EQ(said.find("assertion failed 0 at labelsbase/labelcvt line "), 0U) << said;
+}
+
+}  // namespace
