@@ -6,9 +6,12 @@ include(CMakePackageConfigHelpers)
 set(labelsbase_include_dir "${CMAKE_INSTALL_INCLUDEDIR}/labelsbase-${PROJECT_VERSION_MAJOR}")
 set(labelsbase_cmake_dir "${CMAKE_INSTALL_LIBDIR}/cmake/labelsbase")
 
-install(TARGETS labels_host labelsbase refhost
+install(TARGETS labels_host labelsbase refhost labelcheck
         EXPORT labelsbaseTargets
         FILE_SET HEADERS DESTINATION "${labelsbase_include_dir}")
+if(LABELS_TOOL)
+  install(TARGETS labels EXPORT labelsbaseTargets)
+endif()
 
 install(EXPORT labelsbaseTargets NAMESPACE labelsbase:: DESTINATION "${labelsbase_cmake_dir}")
 configure_package_config_file(cmake/labelsbaseConfig.cmake.in labelsbaseConfig.cmake
