@@ -7,6 +7,7 @@
 #include <climits>
 #include <cmath>
 #include <cstdio>
+#include <limits>
 #include <random>
 #include <string>
 
@@ -91,10 +92,14 @@ TEST(Integers, DoublesThatDoNotFitAreTheInvalidSample) {
     double value;
     int sample;
   } const cases[] = {
-      {2147483647.9, INT_MAX},   {2147483648.0, -100'000'000},
-      {-2147483648.9, INT_MIN},  {-2147483649.0, -100'000'000},
-      {1e99, -100'000'000},      {NAN, -100'000'000},
-      {-INFINITY, -100'000'000}, {-0.9, 0},
+      {2147483647.9, INT_MAX},
+      {2147483648.0, -100'000'000},
+      {-2147483648.9, INT_MIN},
+      {-2147483649.0, -100'000'000},
+      {1e99, -100'000'000},
+      {std::numeric_limits<double>::quiet_NaN(), -100'000'000},
+      {-std::numeric_limits<double>::infinity(), -100'000'000},
+      {-0.9, 0},
   };
   for (auto const& c : cases) EXPECT_EQ(labelsbase::to_int(c.value), c.sample) << c.value;
 }

@@ -66,6 +66,19 @@ class LABELSBASE_API LabelPoint {
   // One type, one sample and, for types with a prefix, one prefix. Templates and texts are not compared.
   [[nodiscard]] bool operator==(LabelPoint const& other) const;
 
+  // Sum and difference of two points of one type, moved into its range, without a prefix; the invalid point for
+  // points of two types.
+  [[nodiscard]] LabelPoint operator+(LabelPoint const& other) const;
+  [[nodiscard]] LabelPoint operator-(LabelPoint const& other) const;
+
+  // Makes a key number one with a longer or a shorter count of the same gauge: digits move from the end of the
+  // prefix to the count, or are taken off the count. The prefix field stays as it is. Other types, and other
+  // points, change nothing.
+  void modify_type(label_t type);
+
+  // The same by the count's digits, 4 to 6.
+  void modify_count_length(int digits);
+
   // Moves a timecode at a negative sample up by one day; leaves every other point as it is.
   void constrain_positive();
 

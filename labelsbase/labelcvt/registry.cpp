@@ -5,7 +5,11 @@
 #include <string_view>
 #include <type_traits>
 
+#include "labelsbase/labelcvt/feet.h"
+#include "labelsbase/labelcvt/film_frames.h"
+#include "labelsbase/labelcvt/ink.h"
 #include "labelsbase/labelcvt/invalid_converter.h"
+#include "labelsbase/labelcvt/keycode.h"
 #include "labelsbase/labelcvt/timecode.h"
 #include "labelsbase/support/broken.h"
 #include "labelsbase/support/text.h"
@@ -39,7 +43,13 @@ constexpr auto makers_of() noexcept {
 constexpr auto makers = makers_of<
     pal_label, ntsc_label, ntsc_drop_label, tc_24_label, tc_48_label, tc_50_label, tc_60_label,
     tc_50_duration_label, tc_60_duration_label, tc_12_label, tc_15_label, tc_20_label, tc_80_label,
-    tc_90_label, tc_100_label, tc_120_label, tc_240_label>();
+    tc_90_label, tc_100_label, tc_120_label, tc_240_label,
+    keycode_35_label, keycode_35_label_4, keycode_35_label_5, keycode_35_label_6,
+    keycode_16_label, keycode_16_label_4, keycode_16_label_5, keycode_16_label_6,
+    keycode_353_label, keycode_353_label_4, keycode_353_label_5, keycode_353_label_6,
+    keycode_352_label, keycode_358_label, keycode_655_80_label, keycode_658_80_label, keycode_6510_80_label,
+    keycode_655_120_label, keycode_658_120_label, keycode_6510_120_label, keycode_6515_120_label,
+    ink_35_label, ink_16_label, foot_35_label, foot_16_label, foot_353_label, film_frames_label>();
 // clang-format on
 
 maker maker_of(label_t type) noexcept {

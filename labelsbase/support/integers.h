@@ -27,6 +27,9 @@ namespace labelsbase {
 // The smallest sample is its own negative.
 [[nodiscard]] constexpr int wrap_negate(int value) noexcept { return wrap_sub(0, value); }
 
+// The smallest sample is its own magnitude too, and stays negative.
+[[nodiscard]] constexpr int wrap_magnitude(int value) noexcept { return value < 0 ? wrap_negate(value) : value; }
+
 // A double without its fraction; the invalid sample for what does not fit an int or is not a number.
 [[nodiscard]] constexpr int to_int(double value) noexcept {
   return value > -2147483649.0 && value < 2147483648.0 ? static_cast<int>(value) : invalid_sample;

@@ -1,0 +1,90 @@
+#include "labelsbase/labelcvt/ink.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "labelsbase/samples.h"
+#include "labelsbase/support/text.h"
+
+using namespace labelsbase;
+
+namespace {
+
+// An ink number of 11 characters: missing ones are zeros in front, too many are left out in the middle.
+class ink_text {
+ public:
+  explicit ink_text(char const* text) noexcept {
+    text_writer out{text_};
+    auto const length = std::strlen(text);
+    if (length < whole) {
+      for (auto zeros = std::min<std::size_t>(whole - length, prefix); zeros > 0; --zeros) out.put('0');
+      out.put(text);
+    } else if (length > whole) {
+      for (std::size_t i = 0; i < prefix; ++i) out.put(text[i]);
+      out.put(text + length - rest);
+    } else {
+      out.put(text);
+    }
+    length_ = out.length();
+  }
+
+  [[nodiscard]] char const* c_str() const noexcept { return text_; }
+  [[nodiscard]] std::size_t length() const noexcept { return length_; }
+
+ private:
+  static constexpr std::size_t whole = 11, prefix = 4, rest = 7;
+
+  char text_[whole + 1];
+  std::size_t length_;
+};
+
+}  // namespace
+
+ink_label::ink_label(int frames_per_count, int perfs_per_frame)
+    : prefix_label{std::max(frames_per_count, 1), std::max(perfs_per_frame, 1), 8} {
+  set_count_len(4);
+  dummy_prefix_ = "XXXX";
+  ink_label::build_template();
+}
+
+char const* ink_label::type_str() const { return label_type_name(ink_label_t); }
+label_t ink_label::type() const { return ink_label_t; }
+UserLabelType ink_label::UserType() const { return User_ink; }
+int ink_label::normalise_sample_unit(int perfs) { return wrap_to_counts(perfs); }
+
+void ink_label::get_counts(int perfs) {
+  int const frames = perfs / samples_per_unit_;
+  count_ = frames / modulus_;
+  frame_ = frames % modulus_;
+}
+
+char const* ink_label::get_abs_string(LabelPoint* point, int perfs) {
+  if (is_special_sample(perfs)) return get_invalid_string(point, perfs);
+  get_counts(perfs);
+  return write_label(point, count_, frame_, separator_);
+}
+
+int ink_label::get_abs_sample(char const* text) {
+  ink_text const label{or_empty(text)};
+  int const count = read_count(label.c_str(), label.length());
+  if (count < 0) return invalid_sample;
+
+  int frame = 0;
+  auto const count_end = std::size_t{prefix_length_} + count_length_;
+  if (label.length() > count_end) {
+    if (label.length() - count_end > 3) return invalid_sample;  // a separator and two digits
+    frame = text_reader{label.c_str() + count_end + 1}.number().value_or(0);
+  }
+  if (frame < 0 || frame >= modulus_) return invalid_sample;
+  return wrap_mul(samples_per_unit_, wrap_add(wrap_mul(count, modulus_), frame));
+}
+
+void ink_label::build_template() {
+  char frames[16];
+  text_writer{frames}.number(typed_frames());
+  set_count_templates(frames);
+}
+
+void ink_label::set_prefix(LabelPoint* point, char const* text) {
+  prefix_label::set_prefix(point, ink_text{or_empty(text)}.c_str());
+}
