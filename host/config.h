@@ -4,6 +4,10 @@
 //   50p_timecode_type, 60p_timecode_type   1 (or anything else) plain 50 or 60 frame timecode;
 //                                          2 slow timecode, two samples (fields) a frame;
 //                                          3 each sample a frame of a 25 or 30 frame timecode
+//   default_film_video_conversion_pulldown 0 (the default) film and video convert frame for frame;
+//                                          anything else through the pulldown of the project
+//
+// Kept for hosts, which may read it themselves; nothing here does: video_in_film_pulldown.
 #pragma once
 
 #include "host/lightweight_string.h"
