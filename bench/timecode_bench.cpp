@@ -5,13 +5,15 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <random>
 #include <string>
 #include <vector>
 
+#include "bench/measure.h"
 #include "labelsbase/labels.h"
 
 namespace {
+
+using bench::measure;
 
 struct rate {
   label_t type;
@@ -52,12 +54,10 @@ int join(rate const& r, fields const& f) {
 
 struct day_of_labels {
   explicit day_of_labels(rate const& r) : point{r.type, 0} {
-    auto const day = dynamic_cast<timecode_label&>(*point.cvt()).samples_per_day();
-    std::mt19937 random{4096};
-    for (int i = 0; i < 4096; ++i) {
-      samples.push_back(static_cast<int>(random() % static_cast<unsigned>(day)));
-      texts.emplace_back(point.cvt()->get_abs_string(&point, samples.back()));
-      packed.push_back(point.cvt()->get_abs_smpte_string(&point, samples.back()));
+    samples = bench::random_samples(dynamic_cast<timecode_label&>(*point.cvt()).samples_per_day());
+    for (int const sample : samples) {
+      texts.emplace_back(point.cvt()->get_abs_string(&point, sample));
+      packed.push_back(point.cvt()->get_abs_smpte_string(&point, sample));
     }
   }
 
@@ -66,14 +66,6 @@ struct day_of_labels {
   std::vector<std::string> texts;
   std::vector<unsigned> packed;
 };
-
-// Runs `convert` on every label in turn.
-template <class Labels, class Convert>
-void measure(benchmark::State& state, Labels const& labels, Convert convert) {
-  for (auto _ : state)
-    for (auto const& label : labels) benchmark::DoNotOptimize(convert(label));
-  state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(labels.size()));
-}
 
 void sample_to_text(benchmark::State& state, rate const& r) {
   day_of_labels day{r};
@@ -144,27 +136,13 @@ void bcd_to_sample_libc(benchmark::State& state, rate const& r) {
   });
 }
 
-struct work {
-  char const* name;
-  void (*own)(benchmark::State&, rate const&);
-  void (*libc)(benchmark::State&, rate const&);
-};
-
-constexpr work works[] = {
+constexpr bench::work<rate> works[] = {
     {"sample_to_text", sample_to_text, sample_to_text_libc},
     {"text_to_sample", text_to_sample, text_to_sample_libc},
     {"sample_to_bcd", sample_to_bcd, sample_to_bcd_libc},
     {"bcd_to_sample", bcd_to_sample, bcd_to_sample_libc},
 };
 
-[[maybe_unused]] bool const registered = [] {
-  for (auto const& w : works)
-    for (auto const& r : rates) {
-      std::string const name = std::string{w.name} + "/" + r.name;
-      benchmark::RegisterBenchmark(name.c_str(), w.own, r)->Repetitions(5);
-      benchmark::RegisterBenchmark((name + "/libc").c_str(), w.libc, r)->Repetitions(5);
-    }
-  return true;
-}();
+[[maybe_unused]] bool const registered = bench::register_all(works, rates);
 
 }  // namespace

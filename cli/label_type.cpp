@@ -44,6 +44,27 @@ std::string_view exchange_name(label_t type) noexcept {
   return name == "BAD" ? std::string_view{} : name;
 }
 
+char const* family_name(UserLabelType family) noexcept {
+  switch (family) {
+    case User_timecode:
+      return "timecode";
+    case User_keycode:
+      return "key-number";
+    case User_feet:
+      return "feet";
+    case User_ink:
+      return "ink";
+    case User_film_frames:
+      return "film-frames";
+    case User_any:
+      return "any";
+    case User_none:
+    case User_no_label:
+      break;
+  }
+  return "-";
+}
+
 label_cvt* converter_of(label_t type) {
   auto* const converter = get_static_label_cvt(type);
   return converter->type() == type && type != dummy_label_t ? converter : nullptr;

@@ -13,6 +13,9 @@ namespace cli {
 // The type's name in edit decision lists, for example "30f-drop"; empty for a type that has none.
 [[nodiscard]] std::string_view exchange_name(label_t type) noexcept;
 
+// "timecode", "key-number" and so on; "any" for the family that matches all, "-" for none.
+[[nodiscard]] char const* family_name(UserLabelType family) noexcept;
+
 // The shared converter of a type; null for a type without one of its own.
 [[nodiscard]] label_cvt* converter_of(label_t type);
 

@@ -1,21 +1,24 @@
-// What the tool can do, a function a verb.
+// What the tool can do, a verb a file.
 #pragma once
 
-#include <string>
-#include <vector>
+#include <functional>
 
 #include "cli/console.h"
-#include "labelsbase/labelcvt.h"
+
+namespace CLI {
+class App;
+}
 
 namespace cli {
 
-// Lists the label types.
-[[nodiscard]] exit_status types(console& io);
+// Does what the command line asks of a verb.
+using verb_run = std::function<exit_status(console&)>;
 
-// Turns samples into labels.
-[[nodiscard]] exit_status show(label_t type, std::vector<std::string> const& samples, console& io);
-
-// Turns labels into samples; `lenient` takes whatever the library can read.
-[[nodiscard]] exit_status read(label_t type, std::vector<std::string> const& labels, bool lenient, console& io);
+// Each declares the arguments of its verb, and gives what is to be run once they are known.
+[[nodiscard]] verb_run declare_types(CLI::App& verb);
+[[nodiscard]] verb_run declare_show(CLI::App& verb);
+[[nodiscard]] verb_run declare_read(CLI::App& verb);
+[[nodiscard]] verb_run declare_add(CLI::App& verb);
+[[nodiscard]] verb_run declare_diff(CLI::App& verb);
 
 }  // namespace cli

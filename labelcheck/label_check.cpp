@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "labelcheck/film_check.h"
 #include "labelcheck/timecode_check.h"
 
 namespace labelcheck {
@@ -11,6 +12,10 @@ refusal refuse_type(label_t type) {
   std::string const name = labelsbase::label_type_name(type);
   auto rule = name.empty() ? "there is no label type " + std::to_string(type) : name + " texts cannot be checked";
   return {field::whole, 0, std::move(rule), ""};
+}
+
+constexpr bool is_film(UserLabelType family) noexcept {
+  return family == User_keycode || family == User_ink || family == User_feet || family == User_film_frames;
 }
 
 }  // namespace
@@ -29,6 +34,14 @@ char const* field_name(field f) noexcept {
       return "separator";
     case field::frames:
       return "frames";
+    case field::prefix:
+      return "prefix";
+    case field::count:
+      return "count";
+    case field::feet:
+      return "feet";
+    case field::perforation:
+      return "perforation";
     case field::whole:
       break;
   }
@@ -37,8 +50,9 @@ char const* field_name(field f) noexcept {
 
 std::optional<refusal> check(label_t type, std::string_view text) {
   if (!labelsbase::is_label_type(type)) return refuse_type(type);
-  auto const& cvt = *get_static_label_cvt(type);
+  auto& cvt = *get_static_label_cvt(type);
   if (cvt.UserType() == User_timecode) return check_timecode(cvt, text);
+  if (is_film(cvt.UserType())) return check_film(cvt, text);
   return refuse_type(type);
 }
 

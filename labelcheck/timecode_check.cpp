@@ -3,31 +3,14 @@
 #include <algorithm>
 #include <array>
 
+#include "labelcheck/parts.h"
+
 namespace labelcheck {
 namespace {
-
-constexpr bool is_digit(char c) noexcept { return c >= '0' && c <= '9'; }
-constexpr bool is_blank(char c) noexcept { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
 // What people and lists write between the numbers.
 constexpr bool parts_numbers(char c) noexcept {
   return std::string_view{":;.,+-"}.find(c) != std::string_view::npos;
-}
-
-constexpr std::string_view digits_of(std::string_view text) noexcept {
-  return text.substr(0, static_cast<std::size_t>(std::ranges::find_if_not(text, is_digit) - text.begin()));
-}
-
-// Numbers from 1000 up are all the same to a clock.
-constexpr int number(std::string_view digits) noexcept {
-  int value = 0;
-  for (char const digit : digits) value = std::min(value * 10 + (digit - '0'), 1000);
-  return value;
-}
-
-void append_number(std::string& text, int value, std::size_t digits) {
-  auto const written = std::to_string(value);
-  text.append(digits - std::min(digits, written.size()), '0').append(written);
 }
 
 enum class breach { plus_sign, negative_drop_frame, missing, digit_count, range, separator, left_out, trailing };
@@ -120,7 +103,7 @@ std::optional<fault> timecode_form::read_number(std::string_view text, std::size
   auto const digits = digits_of(text.substr(position));
   if (digits.size() != form.digits)
     return fault{breach::digit_count, position + std::min(digits.size(), form.digits), part};
-  value = number(digits);
+  value = static_cast<int>(number(digits));
   if (value > form.last) return fault{breach::range, position, part};
   position += form.digits;
   return std::nullopt;
@@ -189,7 +172,7 @@ std::string timecode_form::nearest(std::string_view text) const {
     auto const digits = digits_of(text);
     if (part == 0 && digits.empty() && !text.empty() && !parts_numbers(text.front())) return "";
     legible = legible || !digits.empty();
-    label[part] = std::min(number(digits), parts_[part].last);
+    label[part] = static_cast<int>(std::min<std::int64_t>(number(digits), parts_[part].last));
 
     skip([](char c) { return !parts_numbers(c) && !is_blank(c); });
     if (text.empty() || part == frames_part) break;

@@ -1,53 +1,8 @@
-// The tool, as it is used: lines for the shell.
-
-#include <gtest/gtest.h>
-#include <stdlib.h>
-#include <sys/wait.h>
-
-#include <array>
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 
+#include "tests/tool.h"
+
 namespace {
-
-struct outcome {
-  std::string out;
-  std::string err;
-  int exit_code;
-};
-
-class Tool : public testing::Test {
- protected:
-  // Runs a line with the tool on the path.
-  outcome run(std::string const& line) const {
-    auto const script = "PATH=" LABELS_TOOL_DIR ":$PATH; cd " + folder_ + "; { " + line + "\n} 2>err";
-    FILE* const shell = popen(script.c_str(), "r");
-    std::string out;
-    std::array<char, 4'096> block;
-    while (auto const size = fread(block.data(), 1, block.size(), shell)) out.append(block.data(), size);
-    int const status = pclose(shell);
-    return {out, contents("err"), WIFEXITED(status) ? WEXITSTATUS(status) : -1};
-  }
-
-  std::string contents(std::string const& name) const {
-    std::ifstream in{folder_ + "/" + name, std::ios::binary};
-    return {std::istreambuf_iterator<char>{in}, {}};
-  }
-
-  void SetUp() override {
-    auto name = testing::TempDir() + "labels_XXXXXX";
-    ASSERT_NE(mkdtemp(name.data()), nullptr);
-    folder_ = name;
-  }
-
-  void TearDown() override { std::filesystem::remove_all(folder_); }
-
- private:
-  std::string folder_;
-};
 
 TEST_F(Tool, DoesWhatItIsAsked) {
   struct {
@@ -75,7 +30,26 @@ TEST_F(Tool, DoesWhatItIsAsked) {
        "00:00:01.00\n00:00:00.30\n"},
       {"labels --version", "labels 14.5.0.0\n"},
       {"labels types | awk '$2 == \"tc_24_label\"'",
-       "     8  tc_24_label             timecode     24f                24  -29.59.59.29\n"},
+       "     8  tc_24_label             timecode     24f                24           -            -          -"
+       "  -29.59.59.29\n"},
+      {"labels types | awk '$7 + 0 > 0 && $4 !~ /_/ {print $2, $6, $7, $8}'",
+       "keycode_35_label 16 4 64\nkeycode_16_label 20 1 20\nkeycode_353_label 22 3 64\nfoot_35_label 16 4 64\n"
+       "foot_16_label 40 1 40\nfoot_353_label 22 3 64\nink_35_label 16 4 64\nink_16_label 20 1 20\n"
+       "keycode_352_label 32 2 64\nkeycode_358_label 8 8 64\n"},
+      {"labels show F353 --prefix KJ123456 0 1 62 -2 100000001",
+       "KJ1234560000+00.1\nKJ1234560000+01.3\nKJ1234560001+00.3\nKJ1234560000+00.3\n>>>>>>>>>>>>>>>.>\n"},
+      {"labels show foot_353_label 64 -64 -100000000", "0001+00.1\n-0001+00.1\n????????.?\n"},
+      {"labels show I16 19; labels show 30 -5", "XXXX0000+19\n-000005\n"},
+      {"labels read F16 'KJ1234560123&07'; labels read 30 100000000", "2467\n100000000\n"},
+      {"labels read F35 --prefix KJ123456 0123+07 KJ1234560123+08", "7900\n7904\n"},
+      {"labels read --lenient F35 KJ1234560123", "7872\n"},
+      {"labels add F35 KJ1234560123+07 100 -2000", "KJ1234560129+11\nKJ1234569998+07\n"},
+      {"labels add F353 --prefix KJ123456 0000+00.1 21 --perfs", "KJ1234560000+07.1\n"},
+      {"labels add 30f-drop '00:00:59;29' 1; labels add foot_16_label -0001+00 39", "00:01:00;02\n-0000+01\n"},
+      {"echo 10 | labels add I35 AB120000+15", "AB120001+09\n"},
+      {"labels diff F35 KJ1234560123+07 KJ1234560000+00 KJ1234560123+08", "1975\n159999\n"},
+      {"labels diff F353 --perfs KJ1234560001+00.1 KJ1234560000+00.1", "64\n"},
+      {"labels diff 25f 01:00:10:00 01:00:00:00; labels diff 14 -0001+00 0001+00", "250\n-32\n"},
   };
   for (auto const& c : cases) {
     auto const [out, err, exit_code] = run(c.line);
@@ -117,6 +91,24 @@ TEST_F(Tool, RefusesAnItemAndDoesTheRest) {
        "1\n",
        "labels: line 1: this is no timecode; expected hh:mm:ss.ff\n"
        "labels: line 2: the line is longer than 4096 bytes\n"},
+      {"labels show F35 -1 0 -64 1280000", "XX0000000000+00\n",
+       "labels: argument 1: \"-1\": lies before the first label\n"
+       "labels: argument 3: \"-64\": lies before the first label\n"
+       "labels: argument 4: \"1280000\": lies beyond the last label\n"},
+      {"labels read F35 --prefix KJ123456 0123+16 EH1234560123+07 x", "",
+       "labels: argument 1: \"0123+16\": frames run from 00 to 15 (column 6); nearest is 0123+15\n"
+       "labels: argument 2: \"EH1234560123+07\": the prefix is EH123456; expected KJ123456\n"
+       "labels: argument 3: \"x\": this is no key number; expected one like XX0000000000+00\n"},
+      {"labels add F353 KJ1234560000+00.1 -1 1.5 2147483647 1", "KJ1234560000+01.1\n",
+       "labels: argument 1: \"-1\": leads out of the range of the count\n"
+       "labels: argument 2: \"1.5\": expected a whole number of frames\n"
+       "labels: argument 3: \"2147483647\": leads out of the range of samples\n"},
+      {"labels add F35 KJ1234560123+16 1", "",
+       "labels: \"KJ1234560123+16\": frames run from 00 to 15 (column 14); nearest is KJ1234560123+15\n"},
+      {"labels diff F353 KJ1234560001+00.1 KJ1234560000+00.1 EH1234560000+00.1", "",
+       "labels: argument 1: \"KJ1234560000+00.1\": the difference is 64 perforations, no whole number of frames;"
+       " --perfs shows it\n"
+       "labels: argument 2: \"EH1234560000+00.1\": the prefix is EH123456, another roll than KJ123456\n"},
   };
   for (auto const& c : cases) {
     auto const [out, err, exit_code] = run(c.line);
@@ -133,7 +125,13 @@ TEST_F(Tool, SaysHowItIsUsed) {
     char const* err;  // part of it
   } const cases[] = {
       {"labels", "required"},
-      {"labels foo", "required"},
+      {"labels frobnicate 1", "\"frobnicate\" is no verb; expected types, show, read, add, diff"},
+      {"labels show 25f --prefix KJ123456 1", "pal_label has no prefix"},
+      {"labels read F35 --prefix KJ12345 1", "--prefix \"KJ12345\": expected the 8 characters"},
+      {"labels show F35 --prefix 'KJ 23456' 1", "printable and without blanks"},
+      {"labels read F35 --prefix KJ123456 --lenient 1", "excludes"},
+      {"labels add F35", "LABEL is required"},
+      {"labels add 25f 00:00:00:00 1 --perfs", "counts no perforations"},
       {"labels read", "TYPE is required"},
       {"labels read 25f -x", "-x"},
       {"labels types 1", "1"},

@@ -125,6 +125,7 @@ TEST(Feet, ReadAnyText) {
       {ink_16_label_t, "00001234+16", 1'234 * 20 + 16},
       {ink_35_label_t, "00001234+123", invalid},
       {ink_35_label_t, "1234", 1'234 * 64},
+      {ink_35_label_t, "AB12__12+05", 20},    // only key numbers are filled with "_"
       {ink_35_label_t, "AB121234", invalid},  // short texts are filled in front: 000A B121 2 34
       {ink_35_label_t, "AB121234+-1", invalid},
       {ink_35_label_t, "AB12-123+01", invalid},

@@ -8,7 +8,7 @@
 
 namespace labelsbase {
 
-// Film as its key numbers count it (SMPTE ST 254 for the marks on 35 mm and 16 mm film).
+// Film as its key numbers count it (SMPTE ST 254 for the marks on 35 mm film, ST 271 on 16 mm, ST 270 on 65 mm).
 struct gauge_row {
   film_gauge gauge;
   int frames_per_key;

@@ -66,7 +66,7 @@ char const* ink_label::get_abs_string(LabelPoint* point, int perfs) {
 
 int ink_label::get_abs_sample(char const* text) {
   ink_text const label{or_empty(text)};
-  int const count = read_count(label.c_str(), label.length());
+  int const count = read_count(label.c_str(), label.length(), '\0');
   if (count < 0) return invalid_sample;
 
   int frame = 0;

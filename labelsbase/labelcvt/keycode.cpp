@@ -61,7 +61,7 @@ int keycode_label::get_abs_sample(char const* text) {
   text = or_empty(text);
   auto const length = std::strlen(text);
   if (length < prefix_length_) return invalid_sample;
-  key_ = read_count(text, length);
+  key_ = read_count(text, length, '_');
   if (key_ < 0) return invalid_sample;
 
   frame_ = 0;

@@ -68,7 +68,8 @@ inline constexpr int numLabelCvts = tc_240_label_t + 1;
 // The families that a user chooses between.
 enum UserLabelType : std::int32_t {
   User_none = 0,
-  User_any = 1,  // matches every family
+  User_any = 1,       // matches every family
+  User_no_label = 2,  // of no converter: what the user interface shows beside labels, a reel or a scene
   User_timecode = 3,
   User_keycode = 4,
   User_feet = 5,

@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <cstring>
 #include <limits>
-#include <span>
+#include <string_view>
 
+#include "labelsbase/support/digits.h"
 #include "labelsbase/support/text.h"
 
 using namespace labelsbase;
@@ -15,7 +16,15 @@ namespace {
 void copy_prefix(char (&to)[prefix_label::longest_prefix + 1], char const* text, std::size_t length) noexcept {
   auto const size = strnlen(text, std::min(length, sizeof to - 1));
   std::memmove(to, text, size);
-  std::memset(to + size, 0, sizeof to - size);
+  to[size] = '\0';
+}
+
+// Whether a prefix field holds a prefix of this length or a longer text.
+bool has_whole_prefix(char const* prefix, std::size_t length) noexcept {
+  if (length > LabelPoint::prefix_length) return false;
+  for (; length > 0; --length)
+    if (!*prefix++) return false;
+  return true;
 }
 
 constexpr int largest_count(unsigned digits) noexcept {
@@ -47,10 +56,12 @@ char const* prefix_label::get_dummy_prefix() { return dummy_prefix_; }
 
 char const* prefix_label::get_prefix(LabelPoint const* point) const {
   if (!has_prefix()) return "";
-  if (point && strnlen(point->prefix, LabelPoint::prefix_length) >= prefix_length_)
-    copy_prefix(current_prefix_, point->prefix, prefix_length_);
-  else if (std::strlen(current_prefix_) < prefix_length_)
+  if (point && has_whole_prefix(point->prefix, prefix_length_)) {
+    std::memcpy(current_prefix_, point->prefix, prefix_length_);
+    current_prefix_[prefix_length_] = '\0';
+  } else if (std::strlen(current_prefix_) < prefix_length_) {
     copy_prefix(current_prefix_, dummy_prefix_, prefix_length_);
+  }
   return current_prefix_;
 }
 
@@ -92,24 +103,41 @@ char const* prefix_label::write_label(LabelPoint* point, int count, int frame, c
   if (count < 0) return "NEGATIVE";
   if (count > count_maximum_) count = wrap_sub(wrap_sub(count, count_maximum_), 1);
 
+  constexpr int longest = 19;
   auto const& own = *point->converter;
   char const* prefix = own.get_prefix(point);
-  constexpr std::size_t longest = 19;
-  text_writer out{point->text, longest + 1};
-  for (int left = own.get_prefix_length(); left > 0 && *prefix; --left) out.put(*prefix++);
-  out.number(count, static_cast<int>(count_length_)).put(separator).number(frame, 2);
-  if (perf_digit != 0) out.put('.').number(perf_digit);
+  char* out = point->text;
+  for (int left = std::min(own.get_prefix_length(), longest); left > 0 && *prefix; --left) *out++ = *prefix++;
+
+  // Nearly every label has two digits of frames behind a count of its length.
+  auto const room = point->text + longest - out;
+  auto const digits = static_cast<int>(count_length_);
+  bool const in_columns = count <= count_maximum_ && frame >= 0 && frame < 100 && digits > 1 && digits + 5 <= room;
+  if (in_columns) {
+    put_digits(out, static_cast<unsigned>(count), digits);
+    out += digits;
+    *out++ = separator;
+    put_pair(out, frame);
+    out += 2;
+    *out = '\0';
+  } else {
+    text_writer rest{out, static_cast<std::size_t>(room) + 1};
+    rest.number(count, digits).put(separator).number(frame, 2);
+    out += rest.length();
+  }
+  if (perf_digit != 0)
+    text_writer{out, static_cast<std::size_t>(point->text + longest + 1 - out)}.put('.').number(perf_digit);
   return point->text;
 }
 
-int prefix_label::read_count(char const* text, std::size_t length) const noexcept {
-  char digits[11];
+int prefix_label::read_count(char const* text, std::size_t length, char filler) const noexcept {
   std::size_t const start = std::min<std::size_t>(prefix_length_, length);
-  std::size_t const count = std::min({length - start, std::size_t{count_length_}, sizeof digits - 1});
-  std::memcpy(digits, text + start, count);
-  digits[count] = '\0';
+  std::string_view digits{text + start, std::min({length - start, std::size_t{count_length_}, std::size_t{10}})};
+  digits.remove_prefix(std::min(digits.find_first_not_of(filler), digits.size()));
 
-  int const number = text_reader{digits + std::strspn(digits, "_")}.number().value_or(0);
+  char copy[11];
+  text_writer{copy}.put(digits);
+  int const number = text_reader{copy}.number().value_or(0);
   return number <= count_maximum_ ? std::max(number, -1) : -1;
 }
 

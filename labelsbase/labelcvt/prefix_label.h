@@ -43,8 +43,9 @@ class LABELSBASE_API prefix_label : public variable_label {
   // "." unless it is 0. "NEGATIVE" for a count below zero. A count above the largest starts again, once.
   char const* write_label(LabelPoint* point, int count, int frame, char separator, int perf_digit = 0) const;
 
-  // The number in the count's characters of a text; -1 when it is not one that the count can hold.
-  [[nodiscard]] int read_count(char const* text, std::size_t length) const noexcept;
+  // The number in the count's characters of a text, after those that fill it up in front; -1 when it is not one
+  // that the count can hold.
+  [[nodiscard]] int read_count(char const* text, std::size_t length, char filler) const noexcept;
 
   // A sample within all counts that can be written.
   [[nodiscard]] int wrap_to_counts(int sample) const noexcept;

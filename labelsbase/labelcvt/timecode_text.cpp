@@ -1,31 +1,14 @@
 // Timecode: its texts and its packed digits.
 
-#include <array>
-#include <cstring>
-
 #include "labelsbase/labelcvt/drop_frame.h"
 #include "labelsbase/labelcvt/timecode.h"
 #include "labelsbase/support/broken.h"
+#include "labelsbase/support/digits.h"
 #include "labelsbase/support/text.h"
 
 using namespace labelsbase;
 
 namespace {
-
-// "00" to "99", a pair an entry.
-constexpr auto digit_pairs = [] {
-  std::array<char[2], 100> pairs{};
-  for (int i = 0; i < 100; ++i) {
-    pairs[static_cast<std::size_t>(i)][0] = static_cast<char>('0' + i / 10);
-    pairs[static_cast<std::size_t>(i)][1] = static_cast<char>('0' + i % 10);
-  }
-  return pairs;
-}();
-
-inline char* put_pair(char* out, int value) noexcept {
-  std::memcpy(out, digit_pairs[static_cast<unsigned>(value)], 2);
-  return out + 2;
-}
 
 // Whether two digits stand at `text`; `value` receives their number.
 inline bool read_pair(char const* text, int& value) noexcept {

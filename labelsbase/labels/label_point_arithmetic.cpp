@@ -39,16 +39,22 @@ count_length_row const* count_lengths_of(label_t type) noexcept {
 // gauges, chosen by the shorter count alone.
 constexpr int leading_digit(int shorter_count) noexcept { return shorter_count == 4 ? 640'000 : 6'400'000; }
 
+// A point of the converter of two, or the invalid point where theirs differ.
+LabelPoint point_of_both(LabelPoint const& a, LabelPoint const& b, int sample) {
+  if (a.converter->type() == b.converter->type()) return LabelPoint{*a.converter, sample};
+  LabelPoint refused = invalid_label_point;
+  refused.template_choice = true;
+  return refused;
+}
+
 }  // namespace
 
 LabelPoint LabelPoint::operator+(LabelPoint const& other) const {
-  if (converter->type() != other.converter->type()) return invalid_label_point;
-  return LabelPoint{*converter, wrap_add(sample, other.sample)};
+  return point_of_both(*this, other, wrap_add(sample, other.sample));
 }
 
 LabelPoint LabelPoint::operator-(LabelPoint const& other) const {
-  if (converter->type() != other.converter->type()) return invalid_label_point;
-  return LabelPoint{*converter, wrap_sub(sample, other.sample)};
+  return point_of_both(*this, other, wrap_sub(sample, other.sample));
 }
 
 void LabelPoint::modify_type(label_t type) {

@@ -1,11 +1,14 @@
 // Text of labels, written and read a field at a time: no locale, no format strings, no allocation.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <optional>
+#include <string_view>
 
+#include "labelsbase/support/digits.h"
 #include "labelsbase/support/integers.h"
 
 namespace labelsbase {
@@ -38,29 +41,31 @@ class text_writer {
     return *this;
   }
 
-  constexpr text_writer& put(char const* text) noexcept {
-    for (; *text; ++text) put(*text);
+  constexpr text_writer& put(std::string_view text) noexcept {
+    char* to = next_;
+    for (char const c : text.substr(0, static_cast<std::size_t>(last_ - to))) *to++ = c;
+    *to = '\0';
+    next_ = to;
     return *this;
   }
 
   // As "%0*d" writes a number at a width: the sign counts, and wider numbers are written whole.
-  constexpr text_writer& number(int value, int width = 0) noexcept {
-    return signed_digits(value, width - (value < 0));
-  }
+  text_writer& number(int value, int width = 0) noexcept { return signed_digits(value, width - (value < 0)); }
 
   // As "%.*d": a sign, then at least so many digits.
-  constexpr text_writer& signed_digits(int value, int digits) noexcept {
-    char reversed[10];
-    int count = 0;
-    auto rest = value < 0 ? 0U - static_cast<unsigned>(value) : static_cast<unsigned>(value);
-    do {
-      reversed[count++] = static_cast<char>('0' + rest % 10);
-      rest /= 10;
-    } while (rest != 0);
-
+  text_writer& signed_digits(int value, int digits) noexcept {
+    constexpr int most = 10;
+    auto const magnitude = value < 0 ? 0U - static_cast<unsigned>(value) : static_cast<unsigned>(value);
     if (value < 0) put('-');
-    for (int zeros = digits - count; zeros > 0; --zeros) put('0');
-    while (count > 0) put(reversed[--count]);
+    for (; digits > most; --digits) put('0');
+
+    int const size = std::clamp(digits, digits_in(magnitude), most);
+    char text[most];
+    bool const fits = last_ - next_ >= size;
+    put_digits(fits ? next_ : text, magnitude, size);
+    if (!fits) return put(std::string_view{text, static_cast<std::size_t>(size)});
+    next_ += size;
+    *next_ = '\0';
     return *this;
   }
 
@@ -90,11 +95,13 @@ class text_reader {
     if (width <= 0 || !is_digit(*next_)) return {};
 
     constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
+    constexpr std::uint64_t always_fits = largest / 10 - 1;
     std::uint64_t const limit = negative ? largest + 1 : largest;
     std::uint64_t value = 0;
     for (; width > 0 && is_digit(*next_); --width, ++next_) {
       auto const digit = static_cast<std::uint64_t>(*next_ - '0');
-      value = value > (limit - digit) / 10 ? limit : value * 10 + digit;
+      bool const fits = value <= always_fits || value <= (limit - digit) / 10;
+      value = fits ? value * 10 + digit : limit;
     }
     return wrap_to_int(negative ? 0 - value : value);
   }

@@ -1,0 +1,40 @@
+// Decimal digits, two at a time.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstring>
+
+namespace labelsbase {
+
+// "00" to "99", a pair an entry.
+inline constexpr auto digit_pairs = [] {
+  std::array<char[2], 100> pairs{};
+  for (std::size_t i = 0; i < 100; ++i) {
+    pairs[i][0] = static_cast<char>('0' + i / 10);
+    pairs[i][1] = static_cast<char>('0' + i % 10);
+  }
+  return pairs;
+}();
+
+// Writes a number from 0 to 99.
+inline void put_pair(char* out, int value) noexcept {
+  std::memcpy(out, digit_pairs[static_cast<unsigned>(value)], 2);
+}
+
+// Writes the last so many digits of a number.
+inline void put_digits(char* out, unsigned value, int digits) noexcept {
+  for (; digits >= 2; digits -= 2) {
+    put_pair(out + digits - 2, static_cast<int>(value % 100));
+    value /= 100;
+  }
+  if (digits > 0) *out = static_cast<char>('0' + value % 10);
+}
+
+[[nodiscard]] constexpr int digits_in(unsigned value) noexcept {
+  int digits = 1;
+  for (; value >= 10; value /= 10) ++digits;
+  return digits;
+}
+
+}  // namespace labelsbase
