@@ -24,6 +24,8 @@ constexpr verb verbs[] = {
     {"read", "Turn labels into samples", cli::declare_read},
     {"add", "Go on from a label by frames", cli::declare_add},
     {"diff", "Subtract labels from one label, in frames", cli::declare_diff},
+    {"count", "Count film and video frames, across a pulldown", cli::declare_count},
+    {"cadence", "Lay film frames out over video frames", cli::declare_cadence},
     {"media", "List the media", cli::declare_media},
     {"roll", "Read medium-roll identifiers, and say which will do for another", cli::declare_roll},
 };
@@ -44,6 +46,8 @@ constexpr char const* examples =
     "  labels show F353 --prefix KJ123456 0 3 62\n"
     "  labels add F35 KJ1234560123+07 100\n"
     "  labels --set config.50p_timecode_type=2 show 50f 7\n"
+    "  labels count 30f-drop --transfer 2:3 --edit film '01:00:00;00'\n"
+    "  labels cadence --transfer 2:3 --phase 2 --frames 24\n"
     "  labels roll --for 29,1 28,1 out_24i\n\n";
 
 // Of a word that is no verb, the parser only says that a verb is required.

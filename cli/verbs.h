@@ -20,6 +20,8 @@ using verb_run = std::function<exit_status(console&)>;
 [[nodiscard]] verb_run declare_read(CLI::App& verb);
 [[nodiscard]] verb_run declare_add(CLI::App& verb);
 [[nodiscard]] verb_run declare_diff(CLI::App& verb);
+[[nodiscard]] verb_run declare_count(CLI::App& verb);
+[[nodiscard]] verb_run declare_cadence(CLI::App& verb);
 [[nodiscard]] verb_run declare_media(CLI::App& verb);
 [[nodiscard]] verb_run declare_roll(CLI::App& verb);
 

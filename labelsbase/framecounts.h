@@ -1,0 +1,8 @@
+// Film and video frames, counted from 1: across a pulldown, and as label texts. Plain functions that return a
+// status, 0 on failure.
+#pragma once
+
+#include "labelsbase/framecounts/count_text.h"
+#include "labelsbase/framecounts/count_types.h"
+#include "labelsbase/framecounts/label_strings.h"
+#include "labelsbase/framecounts/pulldown.h"

@@ -1,0 +1,70 @@
+// The label types that frame counts know: one row a number.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <functional>
+#include <iterator>
+
+#include "labelsbase/framecounts/count_types.h"
+
+namespace labelsbase {
+
+enum class text_form : unsigned char { unknown, timecode, keycode };
+
+struct count_label_row {
+  label_type label;
+  text_form form;
+  int frames_per_second;  // of timecode
+  int units_per_frame;    // of a key number: 4 where it counts perforations after the key, 1 where frames
+};
+
+// clang-format off
+inline constexpr count_label_row count_label_rows[] = {
+//  label                    form                frames/s  units/frame
+    {Label_timecode_30,      text_form::timecode, 30,      0},
+    {Label_timecode_25,      text_form::timecode, 25,      0},
+    {Label_timecode_30_b,    text_form::timecode, 30,      0},
+    {Label_timecode_24,      text_form::timecode, 24,      0},
+    {Label_timecode_25_b,    text_form::timecode, 25,      0},
+    {Label_timecode_24_b,    text_form::timecode, 24,      0},
+    {Label_timecode_25_c,    text_form::timecode, 25,      0},
+    {Label_keycode_frames,   text_form::keycode,   0,      1},
+    {Label_keycode_perfs,    text_form::keycode,   0,      4},
+    {Label_keycode_frames_b, text_form::keycode,   0,      1},
+    {Label_keycode_perfs_b,  text_form::keycode,   0,      4},
+    {Label_timecode_25_d,    text_form::timecode, 25,      0},
+    {Label_timecode_30_c,    text_form::timecode, 30,      0},
+    {Label_timecode_30_d,    text_form::timecode, 30,      0},
+    {Label_keycode_3perf,    text_form::keycode,   0,      1},
+    {Label_keycode_frames_c, text_form::keycode,   0,      1},
+    {Label_timecode_24_c,    text_form::timecode, 24,      0},
+    {Label_timecode_50,      text_form::timecode, 50,      0},
+    {Label_timecode_60,      text_form::timecode, 60,      0},
+    {Label_timecode_48,      text_form::timecode, 48,      0},
+    {Label_timecode_50_b,    text_form::timecode, 50,      0},
+    {Label_timecode_60_b,    text_form::timecode, 60,      0},
+    {Label_timecode_48_b,    text_form::timecode, 48,      0},
+    {Label_timecode_30_e,    text_form::timecode, 30,      0},
+    {Label_timecode_48_c,    text_form::timecode, 48,      0},
+};
+// clang-format on
+
+// Rising, so no number stands twice.
+static_assert(std::ranges::adjacent_find(count_label_rows, std::ranges::greater_equal{},
+                                         &count_label_row::label) == std::end(count_label_rows));
+
+// By number; the last row is empty, for all numbers that have none.
+inline constexpr auto count_label_rows_by_number = [] {
+  std::array<count_label_row, static_cast<std::size_t>(std::end(count_label_rows)[-1].label) + 2> rows{};
+  for (auto const& row : count_label_rows) rows[static_cast<std::size_t>(row.label)] = row;
+  return rows;
+}();
+
+[[nodiscard]] constexpr count_label_row const& count_label_row_of(label_type label) noexcept {
+  constexpr auto none = count_label_rows_by_number.size() - 1;
+  return count_label_rows_by_number[std::min(static_cast<std::size_t>(static_cast<unsigned>(label)), none)];
+}
+
+}  // namespace labelsbase
