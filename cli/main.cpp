@@ -28,6 +28,7 @@ constexpr verb verbs[] = {
     {"cadence", "Lay film frames out over video frames", cli::declare_cadence},
     {"media", "List the media", cli::declare_media},
     {"roll", "Read medium-roll identifiers, and say which will do for another", cli::declare_roll},
+    {"clock", "Turn clock time into cel time, and back", cli::declare_clock},
 };
 
 constexpr char const* about =
@@ -48,7 +49,8 @@ constexpr char const* examples =
     "  labels --set config.50p_timecode_type=2 show 50f 7\n"
     "  labels count 30f-drop --transfer 2:3 --edit film '01:00:00;00'\n"
     "  labels cadence --transfer 2:3 --phase 2 --frames 24\n"
-    "  labels roll --for 29,1 28,1 out_24i\n\n";
+    "  labels roll --for 29,1 28,1 out_24i\n"
+    "  labels clock --project-rate 24 --output-rate 29.97 3600\n\n";
 
 // Of a word that is no verb, the parser only says that a verb is required.
 std::string what_is_wrong(CLI::App const& app, CLI::ParseError const& wrong) {

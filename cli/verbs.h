@@ -24,5 +24,6 @@ using verb_run = std::function<exit_status(console&)>;
 [[nodiscard]] verb_run declare_cadence(CLI::App& verb);
 [[nodiscard]] verb_run declare_media(CLI::App& verb);
 [[nodiscard]] verb_run declare_roll(CLI::App& verb);
+[[nodiscard]] verb_run declare_clock(CLI::App& verb);
 
 }  // namespace cli
