@@ -1,0 +1,75 @@
+// Keep strings: the one line of text that a host stores of a label and hands back years later.
+//
+//   LABEL_REV:1 pal_label 01:00:00.00 250 0.0400000000 1
+//   header, type, start, length in units, seconds per unit, bounded
+
+#include <algorithm>
+#include <cstring>
+
+#include "host/tokeniser.h"
+#include "labelsbase/labelcvt/label_cvt.h"
+#include "labelsbase/labelcvt/registry.h"
+#include "labelsbase/labels/label.h"
+#include "labelsbase/support/doubles.h"
+#include "labelsbase/support/integers.h"
+#include "labelsbase/support/text.h"
+
+using namespace labelsbase;
+
+namespace {
+
+constexpr char header[] = "LABEL_REV";
+constexpr std::size_t header_length = sizeof header - 1;
+
+int number_of(char const* field) noexcept { return text_reader{field}.number().value_or(0); }
+
+// The revision of a first field; 0, which nothing is read of, for a text that is no keep string. Any one character
+// may stand behind the header.
+int revision_of(char const* field) noexcept {
+  return field[header_length] ? number_of(field + header_length + 1) : 0;
+}
+
+// The start with the blanks of its prefix filled, so that it is one field.
+void put_start(text_writer& out, LabelPoint& start) {
+  char const* text = start.get_string();
+  int const prefix_length = start.converter->get_prefix_length();
+  for (int i = 0; *text; ++i, ++text) out.put(*text == ' ' && i < prefix_length ? '_' : *text);
+}
+
+}  // namespace
+
+std::size_t Label::write_keep_string(char* buffer, std::size_t size) const {
+  text_writer out{buffer, size};
+  int const samples_per_unit = start.converter->samples_per_unit();
+  out.put(header).put(":1 ").put(start.converter->type_str()).put(' ');
+  put_start(out, start);
+  out.put(' ').number(samples_per_unit > 0 ? length / samples_per_unit : length).put(' ');
+  put_fixed(out, pitch * samples_per_unit).put(' ').number(bounded);
+  return out.length();
+}
+
+char* Label::make_keep_string(char* buffer) const {
+  thread_local char own[512];
+  write_keep_string(buffer ? buffer : own, buffer ? keep_string_size : sizeof own);
+  return buffer ? buffer : own;
+}
+
+Label::Label(char const* keep) {
+  tokeniser fields{keep, " "};
+  char const* const first = fields.next();
+  if (!first || std::strncmp(first, header, header_length) != 0) return;
+  revision = revision_of(first);
+  if (revision == 0 || revision >= 3) return;  // revisions below 0 are read: hosts have written them
+
+  if (char const* const type = fields.next()) use_converter(get_label_type(type));
+  char const* const start_text = fields.next();
+  if (start_text) start.sample = start.converter->get_keep_sample(start_text);
+  set_prefix(start_text);
+  if (char const* const units = fields.next()) length = number_of(units);
+  if (char const* const seconds_per_unit = fields.next()) pitch = read_double(seconds_per_unit);
+  if (char const* const flag = fields.next()) bounded = number_of(flag);
+
+  int const samples_per_unit = start.converter->samples_per_unit();
+  if (samples_per_unit != 0) pitch /= samples_per_unit;
+  length = wrap_mul(length, samples_per_unit);
+}

@@ -1,0 +1,183 @@
+#include <gtest/gtest.h>
+
+#include <array>
+#include <climits>
+#include <clocale>
+#include <cmath>
+#include <cstdlib>
+#include <cstring>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "labelsbase/labels.h"
+
+namespace {
+
+std::string kept(Label const& label) {
+  std::array<char, Label::keep_string_size> buffer{};
+  EXPECT_EQ(label.make_keep_string(buffer.data()), buffer.data());
+  return buffer.data();
+}
+
+TEST(KeepString, IsWrittenFieldByField) {
+  Label pal{pal_label_t};
+  pal.length = 250;
+  EXPECT_EQ(kept(pal), "LABEL_REV:1 pal_label  00:00:00.00 250 0.0400000000 1");
+
+  Label film{keycode_35_label_t};
+  film.start.sample = 123 * 64 + 28;
+  film.length = 10;
+  film.bounded = -2;
+  film.set_prefix("K J 34560000+00");
+  EXPECT_EQ(kept(film), "LABEL_REV:1 keycode_35_label K_J_34560123+07 2 0.0416666667 -2");
+  EXPECT_STREQ(film.make_keep_string(nullptr), kept(film).c_str());
+}
+
+// Bounded and not, with several lengths and prefixes, for every type.
+TEST(KeepString, BringsEveryTypeBack) {
+  for (int t = 0; t < numLabelCvts; ++t)
+    for (int sample : {0, 7, 64 * 123 + 61, 90'000})
+      for (int length : {0, 10, 250, 100'000'000, -5})
+        for (int bounded : {0, 1})
+          for (char const* prefix : {"KJ1234560123+07", "AB120123+07", "eh_56x0000000000"}) {
+            Label label{static_cast<label_t>(t)};
+            label.start.sample = sample;
+            label.set_prefix(prefix);
+            label.length = length;
+            label.bounded = bounded;
+            int const unit = label.start.cvt()->samples_per_unit();
+            bool const names_perfs = unit == 3;
+
+            std::string const text = kept(label);
+            Label const read{text.c_str()};
+            ASSERT_EQ(read.start.cvt(), label.start.cvt()) << text;
+            ASSERT_EQ(read.revision, 1) << text;
+            bool const has_labels = label.start.cvt()->UserType() != User_none;
+            ASSERT_EQ(read.start.sample, !has_labels   ? -100'000'000
+                                         : names_perfs ? sample
+                                                       : sample - sample % unit)
+                << text;
+            ASSERT_EQ(read.length, length / unit * unit) << text;
+            ASSERT_EQ(read.bounded, bounded) << text;
+            ASSERT_NEAR(read.pitch, label.pitch, 1e-10) << text;
+            if (label.start.cvt()->has_prefix()) {
+              auto const length_of_prefix = static_cast<std::size_t>(read.start.cvt()->get_prefix_length());
+              ASSERT_EQ(std::strncmp(read.start.prefix, label.start.prefix, length_of_prefix), 0) << text;
+            }
+          }
+}
+
+TEST(KeepString, IsReadByRevision) {
+  struct {
+    char const* header;
+    int revision;
+    bool read;
+  } const cases[] = {
+      {"LABEL_REV:1", 1, true},  {"LABEL_REV:2", 2, true},  {"LABEL_REV:-1", -1, true},
+      {"LABEL_REVX1", 1, true},  {"LABEL_REV:0", 0, false}, {"LABEL_REV:3", 3, false},
+      {"LABEL_REV:", 0, false},  {"LABEL_REV", 0, false},   {"LABEL_RE:1", 1, false},
+      {"LABEL_REV:x", 0, false}, {"label_rev:1", 1, false}, {"LABEL_REV:4294967297", 1, true},
+  };
+  for (auto const& c : cases) {
+    Label const label{(std::string{c.header} + " pal_label 01:00:00.00 250 0.04 1").c_str()};
+    EXPECT_EQ(label.revision, c.revision) << c.header;
+    EXPECT_EQ(label.start.cvt()->type(), c.read ? pal_label_t : dummy_label_t) << c.header;
+    EXPECT_EQ(label.start.sample, c.read ? 90'000 : 0);
+    EXPECT_EQ(label.length, c.read ? 250 : 0);
+  }
+}
+
+TEST(KeepString, MayEndAfterAnyField) {
+  struct {
+    char const* text;
+    int type, sample, length, bounded;
+    double pitch;
+  } const cases[] = {
+      {"LABEL_REV:1", 3, 0, 0, 0, 0.0},
+      {"LABEL_REV:1 pal_label", 5, 0, 0, 0, 0.0},
+      {"LABEL_REV:1 pal_label 01:00:00.00", 5, 90'000, 0, 0, 0.0},
+      {"LABEL_REV:1 pal_label 01:00:00.00 250", 5, 90'000, 250, 0, 0.0},
+      {"LABEL_REV:1  pal_label   01:00:00.00  250 0.04", 5, 90'000, 250, 0, 0.04},
+      {"LABEL_REV:1 keycode_35_label KJ1234560001+00 2 4 1 MediumRollId 2,1", 10, 64, 8, 1, 1.0},
+      {"LABEL_REV:1 no_such_label 01:00:00.00 250 0.04 1", 3, -100'000'000, 250, 1, 0.04},
+      {"LABEL_REV:1 pal_label nothing x y z", 5, -100'000'000, 0, 0, 0.0},
+      {"LABEL_REV:1 pal_label 01:00:00.00 250 -1e400 1", 5, 90'000, 250, 1, -HUGE_VAL},
+      {"LABEL_REV:1 pal_label 01:00:00.00 250 +0x1p-1 1", 5, 90'000, 250, 1, 0.5},
+      {"LABEL_REV:1 keycode_35_label KJ1234560001+00 1073741825 1e-400 1", 10, 64, 4, 1, 0.0},
+      {"", 3, 0, 0, 0, 0.0},
+      {"   ", 3, 0, 0, 0, 0.0},
+      {nullptr, 3, 0, 0, 0, 0.0},
+  };
+  for (auto const& c : cases) {
+    Label const label{c.text};
+    SCOPED_TRACE(c.text ? c.text : "null");
+    EXPECT_EQ(label.start.cvt()->type(), c.type);
+    EXPECT_EQ(label.start.sample, c.sample);
+    EXPECT_EQ(label.length, c.length);
+    EXPECT_EQ(label.pitch, c.pitch);
+    EXPECT_EQ(label.bounded, c.bounded);
+  }
+}
+
+TEST(KeepString, DoesNotFollowTheLocale) {
+  std::string const before = std::setlocale(LC_ALL, nullptr);
+  ::setenv("LOCPATH", LABELS_TEST_LOCALES, 1);
+  ASSERT_TRUE(std::setlocale(LC_ALL, "de_DE.UTF-8"));
+  ASSERT_STREQ(std::localeconv()->decimal_point, ",");
+  Label label{pal_label_t};
+  std::string const text = kept(label);
+  Label const read{text.c_str()};
+  std::setlocale(LC_ALL, before.c_str());
+  EXPECT_NE(text.find(" 0.0400000000 "), std::string::npos) << text;
+  EXPECT_EQ(read.pitch, 0.04);
+}
+
+TEST(KeepString, IsCutToItsBuffer) {
+  Label label{keycode_35_label_t};
+  label.pitch = -1e307;
+  label.length = INT_MIN;
+  std::array<char, Label::keep_string_size + 8> buffer;
+  buffer.fill('!');
+  label.make_keep_string(buffer.data());
+  EXPECT_EQ(std::strlen(buffer.data()), Label::keep_string_size - 1);
+  EXPECT_EQ(buffer[Label::keep_string_size], '!');
+  EXPECT_GT(std::strlen(label.make_keep_string(nullptr)), 320U);
+}
+
+TEST(KeepString, TakesAnyDamage) {
+  std::vector<std::string> originals;
+  for (int t = 0; t < numLabelCvts; ++t) {
+    Label label{static_cast<label_t>(t)};
+    label.set_prefix("KJ1234560123+07");
+    originals.push_back(kept(label) + " MediumRollId 15,2 ");
+  }
+  std::mt19937 random{100'000};
+  for (int i = 0; i < 100'000; ++i) {
+    std::string text = originals[random() % originals.size()];
+    for (auto damage = 1 + random() % 4; damage > 0 && !text.empty(); --damage) {
+      auto const at = random() % text.size();
+      auto const size = random() % 20;
+      switch (random() % 4) {
+        case 0:
+          text[at] = static_cast<char>(random());
+          break;
+        case 1:
+          text.erase(at, size);
+          break;
+        case 2:
+          text.insert(at, text.substr(random() % text.size(), size));
+          break;
+        default:
+          text.resize(at);
+      }
+    }
+    Label label{text.c_str()};
+    (void)label.make_keep_string(nullptr);
+    (void)label.posn_to_sample(static_cast<double>(random()));
+    ASSERT_LE(std::strlen(label.get_string(static_cast<int>(random()))), LabelPoint::text_length);
+    (void)label.contains(Label{originals[random() % originals.size()].c_str()});
+  }
+}
+
+}  // namespace

@@ -1,0 +1,219 @@
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <random>
+
+#include "labelsbase/labels.h"
+#include "refhost/refhost.h"
+
+namespace {
+
+constexpr int invalid = -100'000'000, past_end = 100'000'001, before_start = 100'000'002;
+
+Label range(label_t type, int start, int length) {
+  Label label{type};
+  label.start.sample = start;
+  label.length = length;
+  return label;
+}
+
+TEST(Label, IsMadeOfATypeAConverterOrAPoint) {
+  Label const typed{pal_label_t};
+  EXPECT_EQ(typed.cmp(100'000'000), 0);
+  EXPECT_EQ(typed.cmp(100'000'001), past_end);
+  EXPECT_EQ(typed.cmp(-1), before_start);
+  EXPECT_EQ(typed.pitch, 0.04);
+
+  tc_24_label cvt{15};
+  for (Label const& open : {Label{cvt}, Label{LabelPoint{tc_24_label_t, 48}}}) {
+    EXPECT_EQ(open.bounded, 0);
+    EXPECT_EQ(open.length, 100'000'000);
+    EXPECT_EQ(open.pitch, 1.0 / 24);
+    EXPECT_TRUE(open.contains(INT_MIN));
+    EXPECT_EQ(open.cmp(INT_MIN), 0);
+  }
+  EXPECT_EQ(Label{cvt}.start.cvt(), &cvt);
+}
+
+TEST(Label, CopiesAllButTheRevision) {
+  Label original = range(keycode_35_label_t, 640, 64);
+  original.set_prefix("KJ1234560010+00");
+  original.revision = 2;
+  original.bounded = 7;
+
+  Label const copy{original};
+  EXPECT_EQ(copy.revision, 1);
+  EXPECT_EQ(copy.bounded, 7);
+  EXPECT_TRUE(copy == original);
+
+  Label assigned{pal_label_t};
+  assigned.revision = 5;
+  assigned = original;
+  EXPECT_EQ(assigned.revision, 5);
+  EXPECT_TRUE(assigned == original);
+  EXPECT_STREQ(assigned.start.prefix, "KJ1234560010");  // that of the whole label
+  assigned = *&assigned;
+  EXPECT_TRUE(assigned == original);
+
+  tc_24_label own{15};
+  assigned = Label{own};
+  EXPECT_EQ(assigned.start.cvt(), get_static_label_cvt(tc_24_label_t));
+}
+
+TEST(Label, AnswersForOffsetsAndSamples) {
+  Label label = range(pal_label_t, 90'000, 250);
+  struct {
+    int offset;
+    char const* text;
+    char const* perfs;
+    int point_sample;
+    bool packed;
+    double posn;
+  } const cases[] = {
+      {0, " 01:00:00.00", "", 90'000, true, 3600.0},    {250, " 01:00:10.00", "", 90'250, true, 3610.0},
+      {251, ">>>>>>", ">>", past_end, false, 1e99},     {-1, "<<<<<<", "<<", before_start, false, 1e99},
+      {invalid, ">>>>>>", ">>", past_end, false, 1e99},
+  };
+  for (auto const& c : cases) {
+    EXPECT_STREQ(label.get_string(c.offset), c.text);
+    EXPECT_STREQ(label.get_perfs_string(c.offset), c.perfs);
+    EXPECT_EQ(label.get_label_point(c.offset).sample, c.point_sample);
+    unsigned packed = 5;
+    EXPECT_EQ(label.get_smpte(c.offset, packed), c.packed);
+    EXPECT_EQ(label.get_smpte_string(c.offset) != nullptr, c.packed);
+    EXPECT_EQ(packed == 5, !c.packed);
+    EXPECT_DOUBLE_EQ(label.get_abs_posn(c.offset), c.posn);
+  }
+  EXPECT_EQ(label.get_sample(90'100), 100);
+  EXPECT_EQ(label.get_sample(89'999), invalid);
+  EXPECT_EQ(label.get_unbounded_label_point(-90'001).sample, 2'159'999);
+  EXPECT_DOUBLE_EQ(label.get_abs_posn_extrapolate(-90'000), 0.0);
+
+  label.set_end(90'010);
+  EXPECT_EQ(label.length, 10);
+  EXPECT_EQ(label.get_end(), 90'010);
+  label.start.sample = INT_MAX;
+  EXPECT_EQ(label.get_end(), INT_MIN + 9);
+
+  bool drop = false;
+  EXPECT_EQ(label.samples_from_SMPTE(0x01000040, drop), 90'000);
+  EXPECT_TRUE(drop);
+  label.get_samples_from_SMPTETc(0, drop);
+  EXPECT_FALSE(drop);
+}
+
+TEST(Label, MapsSecondsToSamples) {
+  Label perfs = range(keycode_35_label_t, 0, 1000);
+  perfs.pitch = 1.0 / 24;  // a slow machine: 24 perforations a second
+  struct {
+    double posn;
+    int of_frame, exact;
+  } const cases[] = {
+      {1.0, 24, 24},
+      {0.99, 20, 23},
+      {1.0 - 1.0 / 24 / 300, 24, 23},
+      {1.0 - 1.0 / 24 / 600, 24, 24},
+      {-0.01, -4, -1},
+      {0.0, 0, 0},
+      {1e99, invalid, invalid},
+      {1e12, invalid, invalid},
+      {-1e300, invalid, invalid},
+      {std::numeric_limits<double>::quiet_NaN(), invalid, invalid},
+      {std::numeric_limits<double>::infinity(), invalid, invalid},
+  };
+  for (auto const& c : cases) {
+    EXPECT_EQ(perfs.posn_to_sample(c.posn), c.of_frame) << c.posn;
+    EXPECT_EQ(perfs.abs_posn_to_sample(c.posn), c.exact) << c.posn;
+  }
+  for (double pitch : {0.0, std::numeric_limits<double>::infinity(), std::nan("")}) {
+    perfs.pitch = pitch;
+    EXPECT_EQ(perfs.posn_to_sample(1.0), invalid);
+    EXPECT_EQ(perfs.abs_posn_to_sample(1.0), invalid);
+  }
+  EXPECT_EQ(perfs.sample_to_posn(invalid), 1e99);
+}
+
+TEST(Label, PositionsOfSamplesReadBackExactly) {
+  std::mt19937 random{24};
+  for (int t = 0; t < numLabelCvts; ++t) {
+    Label const label{static_cast<label_t>(t)};
+    if (label.start.cvt()->UserType() == User_none) continue;
+    for (int i = 0; i < 2'000; ++i) {
+      int const sample = label.start.cvt()->normalise_sample_unit(static_cast<int>(random() % 600'000));
+      ASSERT_EQ(label.abs_posn_to_sample(label.sample_to_posn(sample)), sample) << t;
+      int const unit = label.start.cvt()->samples_per_unit();
+      ASSERT_EQ(label.posn_to_sample(label.sample_to_posn(sample)), sample - sample % unit) << t;
+    }
+  }
+}
+
+TEST(Label, ContainsLabelsOfItsRollAndRange) {
+  auto const film = [](char const* prefix, int start, int length, int bounded) {
+    Label label = range(keycode_35_label_t, start, length);
+    label.set_prefix(prefix);
+    label.bounded = bounded;
+    return label;
+  };
+  Label const outer = film("KJ1234560000+00", 100, 100, 1);
+  struct {
+    Label inner;
+    bool contained;
+  } const cases[] = {
+      {film("kj1234560000+00", 100, 100, 1), true},      {film("KJ1234560000+00", 150, 50, 1), true},
+      {film("KJ1234560000+00", 150, 51, 1), false},      {film("KJ1234560000+00", 99, 1, 1), false},
+      {film("KJ1234570000+00", 150, 10, 1), false},      {film("KJ1234560000+00", 150, 9'999, 0), true},
+      {film("KJ1234560000+00", 201, 0, 0), false},       {film("KJ1234560000+00", 150, -50, 1), true},
+      {film("KJ1234560000+00", 150, INT_MAX, 1), false},
+  };
+  Label const open = film("KJ1234560000+00", 100, 100, 0);
+  for (auto const& c : cases) {
+    EXPECT_EQ(outer.contains(c.inner), c.contained) << c.inner.get_start() << " " << c.inner.length;
+    bool const same_roll = c.inner.start.prefix[7] == '6';
+    EXPECT_EQ(open.contains(c.inner), same_roll);
+  }
+  EXPECT_TRUE(range(pal_label_t, 0, 10).contains(range(ntsc_label_t, 5, 5)));  // deliberate: types do not count
+}
+
+TEST(Label, EqualityHoldsStartsAndEndsTogether) {
+  Label const label = range(pal_label_t, 100, 50);
+  Label other = label;
+  other.pitch = 7;
+  EXPECT_TRUE(label == other);
+  other.length = 49;
+  EXPECT_TRUE(label != other);
+
+  // Deliberate: the start as it stands against a normalised one.
+  Label const beyond = range(pal_label_t, 2'160'100, 50);
+  EXPECT_FALSE(beyond == beyond);
+  EXPECT_TRUE(label == range(pal_label_t, 2'160'100, 50));
+}
+
+TEST(Label, TakesANewType) {
+  Label label = range(pal_label_t, 100, 50);
+  label.set_type(keycode_16_label_t);
+  EXPECT_EQ(label.pitch, 1.0 / 24);
+  EXPECT_EQ(label.start.sample, 100);
+  EXPECT_STREQ(label.start.label_template.text(), "????????9999+19");
+  label.init();
+  EXPECT_EQ(label.pitch, 0.0);
+  EXPECT_EQ(label.bounded, 0);
+  EXPECT_EQ(label.length, 50);
+}
+
+TEST(Label, InvalidOneIsOfTheInvalidPoint) {
+  EXPECT_TRUE(get_invalid_label().start == invalid_label_point);
+  EXPECT_EQ(&get_invalid_label(), &get_invalid_label());
+  EXPECT_STREQ(get_invalid_label().get_string(0), "???");
+}
+
+TEST(FilmProject, RunsAt24Or48) {
+  for (int code = -1; code < 50; ++code) {
+    refhost::project_guard const project{{.frame_rate = static_cast<Kiv::FrameRate>(code)}};
+    EXPECT_EQ(is_film_project(), code == 1 || code == 6) << code;
+  }
+}
+
+}  // namespace
