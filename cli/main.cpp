@@ -24,11 +24,14 @@ constexpr verb verbs[] = {
     {"read", "Turn labels into samples", cli::declare_read},
     {"add", "Go on from a label by frames", cli::declare_add},
     {"diff", "Subtract labels from one label, in frames", cli::declare_diff},
+    {"keep", "Explain the keep strings of labels, or write one", cli::declare_keep},
     {"count", "Count film and video frames, across a pulldown", cli::declare_count},
     {"cadence", "Lay film frames out over video frames", cli::declare_cadence},
     {"media", "List the media", cli::declare_media},
     {"roll", "Read medium-roll identifiers, and say which will do for another", cli::declare_roll},
+    {"pitch", "Say how fast a label runs on a medium", cli::declare_pitch},
     {"clock", "Turn clock time into cel time, and back", cli::declare_clock},
+    {"choices", "List the label choices of the user interface", cli::declare_choices},
 };
 
 constexpr char const* about =
@@ -49,6 +52,7 @@ constexpr char const* examples =
     "  labels --set config.50p_timecode_type=2 show 50f 7\n"
     "  labels count 30f-drop --transfer 2:3 --edit film '01:00:00;00'\n"
     "  labels cadence --transfer 2:3 --phase 2 --frames 24\n"
+    "  labels keep --write 25f --start 01:00:00:00 --length 250 --roll 20,2\n"
     "  labels roll --for 29,1 28,1 out_24i\n"
     "  labels clock --project-rate 24 --output-rate 29.97 3600\n\n";
 

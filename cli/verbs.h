@@ -25,5 +25,8 @@ using verb_run = std::function<exit_status(console&)>;
 [[nodiscard]] verb_run declare_media(CLI::App& verb);
 [[nodiscard]] verb_run declare_roll(CLI::App& verb);
 [[nodiscard]] verb_run declare_clock(CLI::App& verb);
+[[nodiscard]] verb_run declare_keep(CLI::App& verb);
+[[nodiscard]] verb_run declare_pitch(CLI::App& verb);
+[[nodiscard]] verb_run declare_choices(CLI::App& verb);
 
 }  // namespace cli

@@ -3,4 +3,5 @@
 
 #include "labelsbase/labelcvt.h"
 #include "labelsbase/labelcvt/label_point.h"
+#include "labelsbase/labels/edit_label.h"
 #include "labelsbase/labels/label.h"
