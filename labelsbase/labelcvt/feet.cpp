@@ -18,7 +18,7 @@ foot_label::foot_label(int frames_per_foot, int perfs_per_frame, int feet_digits
 char const* foot_label::type_str() const { return label_type_name(foot_label_t); }
 label_t foot_label::type() const { return foot_label_t; }
 UserLabelType foot_label::UserType() const { return User_feet; }
-void foot_label::build_template() { label_cvt::build_template(); }
+void foot_label::build_template() { set_templates(""); }
 
 void foot_label::set_shape(char const* frames) noexcept {
   char shape[32];

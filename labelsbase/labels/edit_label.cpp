@@ -41,6 +41,7 @@ EditLabel::EditLabel(char const* keep) : Label{keep} {
 }
 
 EditLabel& EditLabel::operator=(EditLabel const& other) {
+  if (this == &other) return *this;
   Label::operator=(other);
   medium_roll = other.medium_roll;
   return *this;

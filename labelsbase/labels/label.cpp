@@ -133,8 +133,8 @@ char const* Label::get_perfs_string(int offset) const {
 char const* Label::get_smpte_string(int offset) const {
   unsigned packed = 0;
   if (!get_smpte(offset, packed)) return nullptr;
-  return reinterpret_cast<char const*>(
-      std::uintptr_t{packed});  // NOLINT(performance-no-int-to-ptr): what hosts expect
+  // NOLINTNEXTLINE(performance-no-int-to-ptr): the pointer is how hosts get the number
+  return reinterpret_cast<char const*>(std::uintptr_t{packed});
 }
 
 bool Label::get_smpte(int offset, unsigned& packed) const {

@@ -38,7 +38,7 @@ inline text_writer& put_fixed(text_writer& out, double value) noexcept {
     // Too large or too small, as its exponent or its first digits say.
     std::string_view const number{text, static_cast<std::size_t>(end - text)};
     bool const small =
-        number.find_first_of("-") != number.npos || number.find_first_not_of("0") == number.find('.');
+        number.find('-') != std::string_view::npos || number.find_first_not_of('0') == number.find('.');
     value = small ? 0.0 : std::numeric_limits<double>::infinity();
   }
   return negative ? -value : value;
