@@ -1,0 +1,14 @@
+// The strict reader on any text: what it accepts is what the type writes, and the label that it names is one.
+
+#include <cstdlib>
+
+#include "fuzz/fuzz_input.h"
+#include "labelcheck/label_check.h"
+
+int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
+  fuzz_input input{data, size};
+  auto const type = static_cast<label_t>(input.number<std::uint32_t>() % numLabelCvts);
+  auto const refused = labelcheck::check(type, input.rest());
+  if (refused && !refused->nearest.empty() && labelcheck::check(type, refused->nearest)) std::abort();
+  return 0;
+}
