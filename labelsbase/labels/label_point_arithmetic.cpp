@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <span>
 
 #include "labelsbase/labelcvt/label_cvt.h"
 #include "labelsbase/labelcvt/label_point.h"
