@@ -1,8 +1,9 @@
-// The host's identity of a piece of material.
+// The host's identifier of a piece of material.
 #pragma once
 
 #include <cstdint>
 
+// An identifier of 128 bits. The library copies it and never looks inside.
 struct Cookie {
   std::uint64_t high = 0;
   std::uint64_t low = 0;
@@ -10,5 +11,6 @@ struct Cookie {
   friend bool operator==(Cookie const&, Cookie const&) = default;
 };
 
-// The identity that no material has.
+// A cookie that identifies no material. Must be initialised by the compiler (`constinit`), since the library may
+// read it while static objects are built.
 extern Cookie const invalid_cookie;

@@ -6,31 +6,33 @@
 
 namespace Kiv {
 
-// Every answer is that of the moment: the library keeps none of them, the pitch of the PAL and NTSC types apart.
+// The library asks at every use and stores no answer, so a change of project takes effect at once. (The pitch of
+// the PAL and NTSC types is kept; it comes from getFramesPerSecond, not from here.)
 class CurrentProject {
  public:
-  // The project's frame rate. Revision 0 is the current one.
+  // Returns the project's frame rate. Revision 0 is the current one; the library asks for no other.
   static FrameRate getFrameRate(int revision = 0);
 
-  // Whether 29.97 material is labelled in drop-frame timecode.
+  // Returns true if 29.97 material is labelled in drop-frame timecode (SMPTE ST 12-1).
   static bool getUseDropFrameTimecode();
 
-  // Seconds of cel time per sample: getCelResolution of the project's rate.
+  // Returns seconds of cel time per sample: getCelResolution of the project's rate. Positive and finite.
   static double getCelResolution();
 
-  // The rate that the film camera ran at.
+  // Returns the rate at which the film camera ran.
   static FrameRate getInCameraFilmSpeed();
 
-  // The output picture, good until the project changes. Revision 0 is the current one.
+  // Returns the output picture. The reference must stay valid until the project changes. Revision 0 is the current
+  // one; the library asks for no other.
   static OutputFormat::Details const& getOutputImageFormat(int revision = 0);
 
-  // The frame rate of the output picture.
+  // Returns the frame rate of the output picture.
   static FrameRate getOutputImageKIVFrameRate();
 
-  // Whether sound that is in sync with a video project runs pulled down (slower by 1000/1001).
+  // Returns true if sound in sync with a video project runs pulled down: slower by 1000/1001.
   static bool vidprojAudSyncIsPulledDown();
 
-  // Whether film frames reach the output through a pulldown.
+  // Returns true if film frames reach the output through a pulldown.
   static bool outputFormatIsPulledDown();
 };
 

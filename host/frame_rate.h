@@ -1,12 +1,15 @@
-// The host's frame rates: a code for each rate, and what the host answers about a code.
+// The host's frame rates: a code for each rate, and the facts that the host gives for a code.
+//
+// Every function below may be asked about any 32-bit code, codes without a name here included. A host answers
+// those as it likes, but with finite numbers.
 #pragma once
 
 #include <cstdint>
 
 namespace Kiv {
 
-// A frame rate of the host. The numeric codes are stored in projects and are the contract; any 32-bit value
-// may be handed in, and codes without a name here are the host's own.
+// A frame rate of the host. Projects store the numeric codes, so they never change. Codes without a name here are
+// the host's own.
 enum FrameRate : std::int32_t {
   FrameRate_unknown = 0,
   FrameRate_24 = 1,
@@ -34,24 +37,26 @@ enum FrameRate : std::int32_t {
   FrameRate_239_76 = 47,
 };
 
-// Frames per second, positive and finite for every code. The library asks for codes 3 and 5 once, for the pitch
-// of the PAL and NTSC types, and must get 25 and 30000/1001.
+// Returns frames per second, positive and finite. The library asks for codes 3 and 5 once, for the pitch of the
+// PAL and NTSC types; the answers must be 25 and 30000/1001.
 double getFramesPerSecond(FrameRate rate);
 
-// Seconds per frame: 1 / getFramesPerSecond.
+// Returns seconds per frame: 1 / getFramesPerSecond(rate).
 double getFrameDuration(FrameRate rate);
 
-// The rate whose frames are all kept, for a rate that stands for a decimated one; any other code is returned
-// as it is.
+// Returns the rate that `rate` was decimated from (every frame kept). Returns `rate` itself if it is not
+// decimated.
 FrameRate getNonDecimatedFrameRate(FrameRate rate);
 
-// Whether the rate carries the 1000/1001 factor of colour television (23.976, 29.97, 59.94 and so on).
+// Returns true if the rate has the 1000/1001 factor of NTSC colour television: 23.976, 29.97, 59.94 and so on.
 bool has1001Factor(FrameRate rate);
 
-// Seconds of cel time (the editor's internal timeline) per sample in a project of this rate.
+// Returns seconds of cel time (the editor's internal timeline) per sample in a project of this rate. Positive and
+// finite.
 double getCelResolution(FrameRate project_rate);
 
-// Output frames per project frame by nominal rates: 24 to 29.97 gives 30 / 24.
+// Returns output frames per project frame, by nominal rates: 30 / 24 = 1.25 for FrameRate_24 and FrameRate_29_97.
+// Positive and finite.
 double getEditResolutionFrameGearing(FrameRate project_rate, FrameRate output_rate);
 
 }  // namespace Kiv

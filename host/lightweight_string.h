@@ -1,4 +1,4 @@
-// The host's reference-counted string. Header-only: the host and the library read the same layout.
+// The host's reference-counted string. Header-only: host and library share its layout.
 #pragma once
 
 #include <atomic>
@@ -12,7 +12,7 @@
 
 namespace Kiv {
 
-// The reference count stands inside the counted object; the host raises and lowers it.
+// Counts references inside the counted object, through the host (host/os.h).
 struct InternalRefCountTraits {
   using count_type = std::int32_t;
 
@@ -25,14 +25,16 @@ struct InternalRefCountTraits {
 // The static analyzer cannot follow counts that the host keeps.
 // NOLINTBEGIN(clang-analyzer-unix.Malloc)
 
-// A handle of two words on a counted object: its count and itself, both null for an empty handle. A new handle on
-// a fresh object takes over the count of 1 that the object was made with.
+// A handle of two words on a counted object: a pointer to the count and one to the object. Both are null in an
+// empty handle.
 template <typename Object, typename DtorTraits, typename CountTraits>
 class Ptr {
  public:
   using count_type = typename CountTraits::count_type;
 
   constexpr Ptr() noexcept = default;
+
+  // Takes over the count of 1 that a new object starts with.
   Ptr(count_type* count, Object* object) noexcept : count_{count}, object_{object} {}
 
   Ptr(Ptr const& other) noexcept : count_{other.count_}, object_{other.object_} { raise(); }
@@ -50,7 +52,8 @@ class Ptr {
 
   [[nodiscard]] Object* get() const noexcept { return object_; }
 
-  // The owners, 0 for an empty handle. A 1 is final, and what the owners that let go did is visible here.
+  // Returns the number of handles on the object, or 0 for an empty handle. If it is 1, no other thread can change
+  // it, and everything that earlier owners wrote is visible.
   [[nodiscard]] count_type count() const noexcept {
     return count_ ? std::atomic_ref{*count_}.load(std::memory_order_acquire) : 0;
   }
@@ -74,15 +77,15 @@ class Ptr {
 
 }  // namespace Kiv
 
-// A text that copies share until one of them is changed. Null and empty texts have no buffer at all and read as
-// "".
+// A text of up to 2^31 - 1 characters. Copies share one buffer until one of them is changed. Null and empty texts
+// have no buffer and read as "".
 template <typename Char>
 class LightweightString {
  public:
-  // Header and characters are one block of the host's allocator.
+  // The header of a buffer. The characters follow it in the same block of the host's allocator.
   struct Impl {
     Char* characters;
-    std::uint32_t length;    // characters, the terminator not counted
+    std::uint32_t length;    // characters without the terminator
     std::uint32_t capacity;  // the smallest power of two greater than the length
     std::int32_t references;
 
@@ -95,22 +98,31 @@ class LightweightString {
   LightweightString(Char const* text) noexcept  // NOLINT(google-explicit-constructor): a text is a string
       : LightweightString{text, text ? std::char_traits<Char>::length(text) : 0} {}
 
-  // The first `length` characters of `text`. Texts of 2^31 characters and more, and texts for which the host has
-  // no memory, become the empty string.
+  // Copies the first `length` characters of `text`. If the text is null, has 2^31 characters or more, or the host
+  // has no memory, the string is empty.
   LightweightString(Char const* text, std::size_t length) noexcept : handle_{copy_of(text, length)} {}
 
+  // Returns the text, terminated; "" if there is no buffer.
   [[nodiscard]] Char const* c_str() const noexcept { return impl() ? impl()->characters : empty_text; }
+
+  // Returns the number of characters without the terminator.
   [[nodiscard]] std::uint32_t length() const noexcept { return impl() ? impl()->length : 0; }
+
+  // Returns the characters that the buffer has room for, or 0 without a buffer.
   [[nodiscard]] std::uint32_t capacity() const noexcept { return impl() ? impl()->capacity : 0; }
+
   [[nodiscard]] bool empty() const noexcept { return length() == 0; }
+
+  // Returns the number of strings that share the buffer, or 0 without a buffer.
   [[nodiscard]] std::int32_t references() const noexcept { return handle_.count(); }
 
-  // Whether both stand on one buffer; two strings without a buffer do.
+  // Returns true if both strings use one buffer, or both have none. Equal texts in two buffers return false.
   [[nodiscard]] bool shares_buffer_with(LightweightString const& other) const noexcept {
     return impl() == other.impl();
   }
 
-  // The characters for writing, in a buffer that no other string shares; null for the empty string.
+  // Returns the characters for writing, in a buffer that no other string shares. Returns null if the string is
+  // empty, or if the host has no memory for the copy; the string is then empty.
   [[nodiscard]] Char* detach() noexcept {
     if (handle_.count() > 1) *this = LightweightString{c_str(), length()};
     return impl() ? impl()->characters : nullptr;

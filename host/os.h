@@ -1,5 +1,5 @@
-// The host's memory and reference-count services. All memory of the library, and of strings that the host and the
-// library share, comes from here, so that either side may free what the other made.
+// The host's memory and reference counts. All memory of the library, and of the strings that host and library
+// share, comes from this allocator, so either side may free what the other allocated.
 #pragma once
 
 #include <cstddef>
@@ -7,24 +7,28 @@
 
 namespace Kiv {
 
+// Both functions may be called from any thread.
 class Allocator {
  public:
-  // A block of at least `bytes` bytes (0 included), aligned as malloc aligns; null when there is none to be had.
+  // Returns a block of at least `bytes` bytes (0 is allowed), aligned as malloc aligns. Returns null if there is
+  // no memory.
   virtual void* allocate(std::size_t bytes) noexcept = 0;
 
-  // Gives back a block of `allocate`. Null is allowed and does nothing.
+  // Frees a block of `allocate`. Null is allowed and does nothing.
   virtual void free(void* block) noexcept = 0;
 
  protected:
   ~Allocator() = default;
 };
 
-// Counts are raised and lowered from any thread, so both operations are atomic.
+// Both functions may be called from any thread, on one count at the same time, so both must be atomic.
 class ReferenceCounts {
  public:
+  // Adds 1 to `count`.
   virtual void increment(std::int32_t& count) noexcept = 0;
 
-  // True when the count fell to 0. What other owners wrote before they let go is then visible here.
+  // Subtracts 1 from `count`. Returns true if it became 0; everything that other owners wrote before they let go
+  // must then be visible to the caller (release and acquire).
   [[nodiscard]] virtual bool decrement(std::int32_t& count) noexcept = 0;
 
  protected:
@@ -33,6 +37,7 @@ class ReferenceCounts {
 
 class OperatingServices {
  public:
+  // Each returns the same object for the life of the process.
   virtual Allocator& allocator() noexcept = 0;
   virtual ReferenceCounts& reference_counts() noexcept = 0;
 
@@ -42,6 +47,7 @@ class OperatingServices {
 
 }  // namespace Kiv
 
-// The host's one services object. It is asked for at any time from loading on, also while static objects are
-// built and destroyed, so it must answer before the host's own initialisers have run and after its destructors.
+// Returns the host's one services object. Called at any time, also while static objects are built and destroyed:
+// the object must work before the host's first initialiser has run and after its last destructor (use `constinit`
+// and a trivial destructor).
 Kiv::OperatingServices& OS() noexcept;

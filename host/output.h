@@ -1,4 +1,4 @@
-// The host's output picture and the gearing between project and output.
+// The host's output picture, and the rate at which a project is played out.
 #pragma once
 
 #include <cstdint>
@@ -7,7 +7,7 @@
 
 namespace Kiv::Image {
 
-// How a picture is scanned. Any 32-bit value may be handed in; all but the two progressive modes are taken as
+// How a picture is scanned. The library accepts any 32-bit value: 3 and 4 are progressive, every other value is
 // interlaced.
 enum ScanMode : std::int32_t {
   ScanMode_unknown = 0,
@@ -21,11 +21,15 @@ enum ScanMode : std::int32_t {
 
 namespace OutputFormat {
 
-// An output format as far as labels are concerned.
+// The part of an output format that labels depend on.
 class Details {
  public:
   virtual ~Details() = default;
+
+  // Returns how the output picture is scanned.
   virtual Kiv::Image::ScanMode getScanMode() const = 0;
+
+  // Returns the frame rate of the output picture.
   virtual Kiv::FrameRate getFrameRate() const = 0;
 };
 
@@ -33,11 +37,12 @@ class Details {
 
 namespace Kiv {
 
-// At what rate the current project is played out, and whether through a pulldown.
+// The rate at which a project is played out, and whether the playout goes through a pulldown.
 class OutputGearing {
  public:
-  // Option 1: the gearing of the current project, as it is now. The library uses no other option.
+  // Option 1 reads the gearing of the current project at the moment of the call. The library uses no other option.
   explicit OutputGearing(int option);
+
   OutputGearing(FrameRate rate, bool use_pulldown) : rate_{rate}, use_pulldown_{use_pulldown} {}
 
   FrameRate getFrameRate() const { return rate_; }

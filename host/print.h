@@ -1,5 +1,6 @@
 // The host's diagnostic print.
 #pragma once
 
-// Prints for whoever looks after the system, in the manner of printf. Never stops the program.
+// Prints a message for the maintainers of the system, formatted as printf does. Must return: messages are
+// warnings, never the end of the program.
 [[gnu::format(printf, 1, 2)]] void diagnostic_print(char const* format, ...);

@@ -1,17 +1,20 @@
 // The host's splitter of texts.
 #pragma once
 
-// Splits a text at any of the separator characters. A run of separators counts as one, and those at the start and
-// the end give no empty token. The text is copied: it may change or go while tokens are read.
+// Splits a text at any of a set of separator characters. A run of separators counts as one. Separators at the
+// start and at the end produce no empty tokens. The tokeniser works on a copy of the text.
+//
+//   tokeniser t{": REV: 1 ", ": "};  // t.next() returns "REV", then "1", then null
 class tokeniser {
  public:
-  // Null texts read as empty ones.
+  // A null `text` or `separators` reads as an empty one. If the host is out of memory, there are no tokens.
   tokeniser(char const* text, char const* separators);
   ~tokeniser();
   tokeniser(tokeniser const&) = delete;
   tokeniser& operator=(tokeniser const&) = delete;
 
-  // The next token, terminated, good for the life of the tokeniser; null when none is left.
+  // Returns the next token, terminated, or null after the last one. The token stays valid as long as the
+  // tokeniser.
   char const* next();
 
  private:
