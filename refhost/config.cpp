@@ -12,7 +12,7 @@ namespace {
 
 constinit std::mutex store_mutex;
 
-// Never destroyed: converters may ask until the very end.
+// Never destroyed: converters ask for settings until the process ends.
 auto& store() {
   static auto& texts = *new std::map<std::string, std::string, std::less<>>;
   return texts;

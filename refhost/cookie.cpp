@@ -1,4 +1,4 @@
 #include "host/cookie.h"
 
-// Unlike a default Cookie, so that a cookie that was never set shows.
+// Differs from a default Cookie, so that a cookie that was never set can be told from it.
 constinit Cookie const invalid_cookie{~std::uint64_t{0}, ~std::uint64_t{0}};

@@ -31,12 +31,12 @@ class counting_allocator final : public Kiv::Allocator {
 
 class atomic_reference_counts final : public Kiv::ReferenceCounts {
  public:
-  // A new owner is made from one that is there already, so raising needs no order.
+  // A new owner is always made from an existing one, so relaxed order is enough.
   void increment(std::int32_t& count) noexcept override {
     std::atomic_ref{count}.fetch_add(1, std::memory_order_relaxed);
   }
 
-  // Release hands on what this owner wrote; acquire lets the last one see it all before it destroys.
+  // Release publishes what this owner wrote. Acquire lets the last owner see all of it before it destroys.
   bool decrement(std::int32_t& count) noexcept override {
     return std::atomic_ref{count}.fetch_sub(1, std::memory_order_acq_rel) == 1;
   }
@@ -52,7 +52,7 @@ class services final : public Kiv::OperatingServices {
   atomic_reference_counts counts_;
 };
 
-// No initialiser and no destructor runs for it: it answers as long as the process lives.
+// Has no initialiser and no destructor to run, so it works as long as the process lives.
 constinit services the_services;
 static_assert(std::is_trivially_destructible_v<services>);
 

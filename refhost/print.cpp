@@ -14,13 +14,13 @@ namespace {
 
 constinit std::mutex sink_mutex;
 
-// Never destroyed: diagnostics come until the very end.
+// Never destroyed: diagnostics are printed until the process ends.
 refhost::diagnostic_sink& sink() {
   static auto& the_sink = *new refhost::diagnostic_sink;
   return the_sink;
 }
 
-// Calls the sink outside the lock, so that it may print and set sinks itself.
+// Calls the sink outside the lock, so that a sink can print and set sinks itself.
 void hand_over(std::string_view text) {
   auto const current = [] {
     std::scoped_lock const lock{sink_mutex};

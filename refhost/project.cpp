@@ -11,7 +11,7 @@ constinit std::mutex project_mutex;
 constinit refhost::project_settings current;
 static_assert(std::is_trivially_destructible_v<refhost::project_settings>);
 
-// Keeps nothing itself, so a reference to it stays good and says what holds now.
+// Reads the settings at every call, so a reference to it stays valid when they change.
 class output_picture final : public OutputFormat::Details {
  public:
   Kiv::Image::ScanMode getScanMode() const override { return refhost::project().output_scan; }
@@ -38,7 +38,7 @@ namespace Kiv {
 
 using refhost::project;
 
-// This host keeps no earlier revisions: each one answers as the current one.
+// This host keeps no earlier revisions. Every revision returns the current rate.
 FrameRate CurrentProject::getFrameRate(int) { return project().frame_rate; }
 
 bool CurrentProject::getUseDropFrameTimecode() { return project().drop_frame; }
@@ -61,7 +61,7 @@ bool CurrentProject::vidprojAudSyncIsPulledDown() { return project().audio_sync_
 
 bool CurrentProject::outputFormatIsPulledDown() { return project().output_pulled_down; }
 
-// Options other than 1 have no meaning here and give no gearing.
+// Any option but 1 leaves the gearing at FrameRate_unknown without pulldown.
 OutputGearing::OutputGearing(int option) {
   if (option != 1) return;
   auto const settings = project();

@@ -1,7 +1,11 @@
-// A small host: it answers every service of host/ outside an editor, from settings that are plain values.
+// A small host for programs outside an editor. It implements everything that host/ declares, from settings that
+// are plain values.
 //
-// All of it may be called from any thread and at any time, also while static objects are built and destroyed.
-// A guard restores what it found; guards of one kind are undone in the reverse order of their making.
+//   refhost::project_guard const guard{{.frame_rate = Kiv::FrameRate_25}};
+//   getDefaultLabelTypeForProject();  // pal_label_t
+//
+// Every function may be called from any thread and at any time, also while static objects are built and destroyed.
+// Guards restore the value they found; destroy guards of one kind in the reverse order of their construction.
 #pragma once
 
 #include <cstdint>
@@ -18,25 +22,25 @@
 
 namespace refhost {
 
-// What Kiv::CurrentProject and Kiv::OutputGearing answer. The defaults are a film project: 24 frames per second
-// throughout, progressive, nothing pulled down.
+// The values that Kiv::CurrentProject and Kiv::OutputGearing return. The defaults describe a film project: 24
+// frames per second everywhere, progressive, nothing pulled down.
 struct project_settings {
-  // The rate that the project is edited at.
+  // The rate at which the project is edited.
   Kiv::FrameRate frame_rate = Kiv::FrameRate_24;
 
   // Whether 29.97 material is labelled in drop-frame timecode (SMPTE ST 12-1).
   bool drop_frame = false;
 
-  // The rate that the film camera ran at.
+  // The rate at which the film camera ran.
   Kiv::FrameRate film_speed = Kiv::FrameRate_24;
 
   // How the output picture is scanned.
   Kiv::Image::ScanMode output_scan = Kiv::Image::ScanMode_progressive;
 
-  // The frame rate of the output picture; nothing stands for the project's.
+  // The frame rate of the output picture. Empty: the project's.
   std::optional<Kiv::FrameRate> output_rate{};
 
-  // The rate that the project is played out at; nothing stands for the project's.
+  // The rate at which the project is played out. Empty: the project's.
   std::optional<Kiv::FrameRate> gearing_rate{};
 
   // Whether the playout goes through a pulldown.
@@ -51,10 +55,13 @@ struct project_settings {
   friend bool operator==(project_settings const&, project_settings const&) = default;
 };
 
+// Returns a copy of the current settings.
 [[nodiscard]] project_settings project();
+
+// Replaces all settings.
 void set_project(project_settings const& settings);
 
-// Sets the project for as long as the guard lives.
+// Sets the project while the guard lives.
 class [[nodiscard]] project_guard {
  public:
   explicit project_guard(project_settings const& settings) { set_project(settings); }
@@ -66,15 +73,19 @@ class [[nodiscard]] project_guard {
   project_settings before_ = project();
 };
 
-// The configuration: texts by key, which config_int reads as whole numbers.
+// Stores a text in the configuration, in place of an earlier one. config_int reads such texts as whole numbers.
 void set_config(std::string_view key, std::string_view text);
+
+// Removes a key. Does nothing if there is no such key.
 void erase_config(std::string_view key);
+
+// Returns the text stored under `key`, or nothing if there is no such key.
 [[nodiscard]] std::optional<std::string> config_text(std::string_view key);
 
-// The same store as the library reads it.
+// Returns the same store in the form that the library reads.
 [[nodiscard]] configb& configuration();
 
-// Sets a key for as long as the guard lives, or takes it away when there is no text.
+// Sets a key while the guard lives. Without a text, removes the key meanwhile.
 class [[nodiscard]] config_guard {
  public:
   config_guard(std::string_view key, std::optional<std::string_view> text);
@@ -87,16 +98,18 @@ class [[nodiscard]] config_guard {
   std::optional<std::string> before_;
 };
 
-// A project setting by name, for tools that list them or offer each as an option.
+// A project setting by name, for tools that list the settings or offer each as an option.
 struct setting {
   char const* key;       // "project-rate"
   char const* meaning;   // "frame rate of the project"
-  char const* expected;  // what may be written, as messages say it
+  char const* expected;  // the values accepted, as messages describe them
 };
+
+// Returns all settings in the order of project_settings.
 [[nodiscard]] std::vector<setting> setting_list();
 
-// Sets one setting from text: a key of setting_list, or config.KEY for a configuration value. Gives nothing when
-// all is well, otherwise a message that names the value and what was expected, with nothing changed.
+// Sets one setting from text. `key` is a key of setting_list, or config.KEY for a configuration value. Returns
+// nothing on success. Otherwise changes nothing and returns a message that names the value and what was expected.
 [[nodiscard]] std::optional<std::string> set_option(std::string_view key, std::string_view value);
 
 struct settings_error {
@@ -104,23 +117,24 @@ struct settings_error {
   std::string message;
 };
 
-// Reads `key = value` lines with the keys and values of set_option; the last line of a key counts. Blank lines are
-// skipped, and so are lines that begin with # (a # further on belongs to the value). Gives one error for each
-// wrong line, and then nothing at all is changed.
+// Reads lines `key = value` with the keys and values of set_option. The last line of a key wins. Skips blank lines
+// and lines that begin with "#"; a "#" later in a line belongs to the value. Returns one error for each wrong
+// line. If there is any error, changes nothing.
 [[nodiscard]] std::vector<settings_error> load_settings(std::istream& in);
 
-// What has gone through the host's allocator since the program started.
+// Blocks of the host's allocator since the program started.
 struct allocator_counts {
-  std::int64_t live_blocks;
-  std::int64_t allocations;  // successful ones
+  std::int64_t live_blocks;  // allocated and not freed
+  std::int64_t allocations;  // all that succeeded
 
   friend bool operator==(allocator_counts const&, allocator_counts const&) = default;
 };
 [[nodiscard]] allocator_counts allocator_statistics() noexcept;
 
+// Receives each message of diagnostic_print, formatted.
 using diagnostic_sink = std::function<void(std::string_view text)>;
 
-// Leads diagnostic_print to `sink` for as long as the guard lives; an empty sink is standard error.
+// Sends diagnostic_print to `sink` while the guard lives. An empty sink sends it to standard error.
 class [[nodiscard]] diagnostic_guard {
  public:
   explicit diagnostic_guard(diagnostic_sink sink);

@@ -46,7 +46,7 @@ bool read_word(std::string_view text, auto const& words, Value& value) {
   return true;
 }
 
-// "code:5": the number as projects store it, known to the host or not.
+// Grammar: "code:" NUMBER, the code as projects store it. Accepts codes that the host does not know.
 template <typename Code>
 bool read_code(std::string_view text, Code& value) {
   constexpr std::string_view prefix = "code:";
@@ -64,7 +64,7 @@ bool read_matching_rate(Kiv::FrameRate& value, Matches matches) {
   return true;
 }
 
-// "30000/1001", in lowest terms or not.
+// Grammar: FRAMES "/" SECONDS. "60000/2002" equals "30000/1001".
 bool read_fraction(std::string_view text, Kiv::FrameRate& value) {
   auto const slash = text.find('/');
   if (slash == std::string_view::npos) return false;
@@ -76,8 +76,8 @@ bool read_fraction(std::string_view text, Kiv::FrameRate& value) {
   });
 }
 
-// "24", "12.5", "23.976". The 1001 rates have no exact decimals: they are known by their value rounded to as many
-// as are written, from two (23.98 is 23.976, 24.0 is 24) to nine (more may be off by a last digit).
+// Grammar: a decimal number, "24", "12.5" or "23.976". A 1001 rate has no exact decimals, so it matches if it
+// rounds to the text at the number of decimals written, from two (23.98 is 24000/1001, 24.0 is 24) to nine.
 bool read_decimal(std::string_view text, Kiv::FrameRate& value) {
   if (text.find_first_not_of("0123456789.") != std::string_view::npos) return false;
   double fps = 0;

@@ -1,4 +1,4 @@
-// The values of settings as people write them.
+// The values of settings as text.
 #pragma once
 
 #include <optional>
@@ -9,14 +9,14 @@
 
 namespace refhost {
 
-// Each reads the whole text into `value`; false for a text that it cannot take, with `value` as it was. Letters
-// may be of either case.
+// Parses the whole text, in upper or lower case, into `value`. Returns false and leaves `value` unchanged if the
+// text is not a value of the type.
 [[nodiscard]] bool read_value(std::string_view text, bool& value);
 [[nodiscard]] bool read_value(std::string_view text, Kiv::FrameRate& value);
 [[nodiscard]] bool read_value(std::string_view text, std::optional<Kiv::FrameRate>& value);
 [[nodiscard]] bool read_value(std::string_view text, Kiv::Image::ScanMode& value);
 
-// What read_value takes for a type, as messages say it.
+// Describes for messages what read_value accepts for a type.
 template <typename Value>
 inline constexpr char const* expected_value = nullptr;
 template <>

@@ -39,7 +39,7 @@ constexpr setting_row setting_rows[] = {
 constexpr std::string_view config_prefix = "config.";
 constexpr std::size_t longest_config_text = configb::text_size - 1;
 
-// Settings that have been read but do not hold yet.
+// Settings that were read but not applied yet.
 struct changes {
   project_settings project = refhost::project();
   std::vector<std::pair<std::string, std::string>> config{};
@@ -50,7 +50,7 @@ struct changes {
   }
 };
 
-// In quotes, a long text cut short.
+// Returns the text in quotes, cut after 60 characters.
 std::string quoted(std::string_view text) {
   constexpr std::size_t shown = 60;
   std::string result{"'"};
@@ -59,13 +59,13 @@ std::string quoted(std::string_view text) {
 }
 
 std::string unknown_key(std::string_view key) {
-  std::string message = quoted(key) + " is no setting; expected ";
+  std::string message = "unknown setting " + quoted(key) + "; expected ";
   for (auto const& known : setting_rows) message.append(known.described.key).append(", ");
   return message += "or config.KEY";
 }
 
 std::optional<std::string> read_config(std::string_view key, std::string_view text, changes& out) {
-  if (key.empty()) return quoted(config_prefix) + " names no configuration value; expected config.KEY";
+  if (key.empty()) return quoted(config_prefix) + " needs a key; expected config.KEY";
   if (text.size() > longest_config_text)
     return std::string{config_prefix}.append(key) + ": " + quoted(text) + " is too long; expected at most " +
            std::to_string(longest_config_text) + " characters";
@@ -97,7 +97,7 @@ std::optional<std::string> read_line(std::string_view line, changes& out) {
   return read_setting(trimmed(line.substr(0, equals)), trimmed(line.substr(equals + 1)), out);
 }
 
-// Editors of some systems put a byte order mark before UTF-8 text.
+// Some editors write a byte order mark at the start of UTF-8 text.
 std::string_view without_byte_order_mark(std::string_view line) {
   constexpr std::string_view mark = "\xEF\xBB\xBF";
   return line.starts_with(mark) ? line.substr(mark.size()) : line;

@@ -7,7 +7,7 @@
 
 #include "host/os.h"
 
-// One block of the host's memory: the state, then the copied text with every separator made a terminator.
+// One block of the host's memory: the state, then a copy of the text with a terminator in place of each separator.
 struct tokeniser::state {
   char const* at;
   char const* end;

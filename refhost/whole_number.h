@@ -9,8 +9,8 @@
 
 namespace refhost {
 
-// The number that the whole text is, in decimal and without blanks; nothing for any other text and for numbers
-// that do not fit 32 bits.
+// Parses a text that is one decimal number, without blanks and without "+". Returns nothing for any other text and
+// for numbers outside 32 bits.
 [[nodiscard]] inline std::optional<std::int32_t> whole_number(std::string_view text) noexcept {
   std::int32_t number = 0;
   auto const* end = text.data() + text.size();

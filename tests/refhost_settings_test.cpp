@@ -70,7 +70,7 @@ TEST(SettingsFile, ReportsEveryWrongLineAndChangesNothing) {
   } const cases[] = {
       {2, "drop-frame: 'maybe'", "expected yes, no, true, false, 1 or 0"},
       {4, "'speed' has no '='", "expected key = value"},
-      {5, "'frame-rate' is no setting", "expected project-rate, drop-frame,"},
+      {5, "unknown setting 'frame-rate'", "expected project-rate, drop-frame,"},
       {7, "'config.'", "expected config.KEY"},
       {8, "config.long: 'xxx", "expected at most 1023 characters"},
       {9, "film-speed: ''", "expected a frame rate (24, 23.976,"},
