@@ -1,0 +1,153 @@
+#!/usr/bin/env python3
+"""Runs the examples of the documents, so that they stay true.
+
+usage: check_examples.py BUILD_DIRECTORY DOCUMENT...
+
+In a document,
+
+- a line `EXPRESSION;  // VALUE` in a block of C++ must have that value; a remark may follow behind ": ". The blocks of
+  a document are one program. Any other line is compiled as it is.
+- a block of C++ behind `<!-- file: NAME -->` is a file; the files of a document are one program, linked to labelsbase
+  alone. Lines `// prints TEXT` say what it prints.
+- a line `$ COMMAND` in a block of console is run in a shell that finds the tool `labels`; the lines that follow it are
+  its output, standard error included.
+"""
+
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+COMPILER = os.environ.get("CXX", "c++")
+
+PRELUDE = """\
+#include <concepts>
+#include <cstdio>
+#include <cstring>
+#include <iostream>
+#include <string_view>
+%s
+static int failures = 0;
+template <class Actual, class Expected>
+void check(int line, Actual const& actual, Expected const& expected) {
+  bool same;
+  if constexpr (std::convertible_to<Actual, std::string_view>)
+    same = std::string_view{actual} == expected;
+  else
+    same = actual == static_cast<Actual>(expected);
+  if (same) return;
+  failures = 1;
+  std::cerr << DOCUMENT << ":" << line << ": is " << actual << ", not " << expected << "\\n";
+}
+int main() {
+%s
+  return failures;
+}
+"""
+
+EXAMPLE = re.compile(r'^(\S.*);\s+// ("[^"]*"|[^":]+)(?:: .*)?$')
+
+
+def blocks(document):
+    """Yields (language, file name or None, number of the first line, lines) of every fenced block."""
+    language, lines, first, name = None, [], 0, None
+    for number, line in enumerate(document.read_text().splitlines(), 1):
+        if line.startswith("```") and language is None:
+            language, lines, first = line[3:].strip(), [], number + 1
+        elif line == "```":
+            yield language, name, first, lines
+            language, name = None, None
+        elif language is not None:
+            lines.append(line)
+        else:
+            found = re.match(r"<!-- file: (\S+) -->", line)
+            name = found.group(1) if found else (name if not line else None)
+
+
+def build(build_dir, program, sources, *libraries):
+    library_dir = build_dir / "labelsbase"
+    subprocess.run(
+        [COMPILER, "-std=c++20", "-Wall", "-Wextra", "-Wno-trigraphs", "-Wno-unused-value", "-I", ROOT, *sources]
+        + ["-o", program, "-L", library_dir, "-llabelsbase", *libraries, f"-Wl,-rpath,{library_dir}"],
+        check=True,
+    )
+
+
+def check_expressions(document, build_dir, folder, found):
+    includes, body = [], []
+    for _, _, first, lines in found:
+        for number, line in enumerate(lines, first):
+            example = EXAMPLE.match(line)
+            if line.startswith("#include"):
+                includes.append(line)
+            elif example:
+                expression, value = example.groups()
+                body.append(f"  check({number}, ({expression}), {value.strip()});")
+            else:
+                body.append(f'#line {number} "{document}"\n{line}')
+    source, program = folder / "examples.cpp", folder / "examples"
+    text = PRELUDE % ("\n".join(includes), "\n".join(body))
+    source.write_text(text.replace("DOCUMENT", f'"{document}"'))
+    build(build_dir, program, [source], build_dir / "refhost/librefhost.a")
+    return subprocess.run([program], stdout=subprocess.DEVNULL).returncode == 0
+
+
+def check_files(document, build_dir, folder, found):
+    sources, expected = [], ""
+    for _, name, _, lines in found:
+        sources.append(folder / name)
+        sources[-1].write_text("\n".join(lines) + "\n")
+        expected += "".join(line.split("// prints ")[1] + "\n" for line in lines if "// prints " in line)
+    program = folder / "program"
+    build(build_dir, program, sources)
+    actual = subprocess.run([program], capture_output=True, text=True, check=True).stdout
+    if actual != expected:
+        print(f"{document}: prints\n{actual}not\n{expected}", file=sys.stderr)
+    return actual == expected
+
+
+def check_console(document, build_dir, found):
+    environment = dict(os.environ, PATH=f"{build_dir / 'bin'}:{os.environ['PATH']}")
+    good = True
+    for _, _, first, lines in found:
+        for number, line in enumerate(lines, first):
+            if not line.startswith("$ "):
+                continue
+            rest = lines[number - first + 1 :]
+            end = next((i for i, text in enumerate(rest) if text.startswith("$ ")), len(rest))
+            command = line[2:].replace("./dev run", "labels")
+            done = subprocess.run(command, shell=True, env=environment, text=True, cwd=ROOT,
+                                  stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+            if done.stdout.splitlines() != rest[:end]:
+                print(f"{document}:{number}: {command}\n{done.stdout}", file=sys.stderr)
+                good = False
+    return good
+
+
+def check_document(document, build_dir):
+    cpp = [block for block in blocks(document) if block[0] == "cpp"]
+    console = [block for block in blocks(document) if block[0] == "console"]
+    files = [block for block in cpp if block[1]]
+    expressions = [block for block in cpp if not block[1]]
+    good = check_console(document, build_dir, console)
+    with tempfile.TemporaryDirectory() as folder:
+        folder = pathlib.Path(folder)
+        if expressions:
+            good &= check_expressions(document, build_dir, folder, expressions)
+        if files:
+            good &= check_files(document, build_dir, folder, files)
+    return good
+
+
+def main():
+    if len(sys.argv) < 3:
+        sys.exit(__doc__)
+    build_dir = pathlib.Path(sys.argv[1]).resolve()
+    results = [check_document(pathlib.Path(name), build_dir) for name in sys.argv[2:]]
+    sys.exit(0 if all(results) else 1)
+
+
+main()
