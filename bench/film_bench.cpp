@@ -1,5 +1,5 @@
-// Film labels through the public interface of the shared library, beside the same work done with snprintf and
-// sscanf: 4096 random labels of the whole count, text and keep strings both ways.
+// Measures film labels through the public interface of the shared library, against snprintf and sscanf doing the
+// same work: 4096 random labels over the whole count, text and keep strings, both ways.
 
 #include <benchmark/benchmark.h>
 
@@ -23,7 +23,7 @@ struct film {
   char const* prefix;
   int frames_per_count;
   int perfs_per_frame;
-  int end;  // of the samples
+  int end;  // samples run from 0 to end - 1
 };
 
 // clang-format off
@@ -40,7 +40,7 @@ struct fields {
   int count, frame, perf;
 };
 
-// The arithmetic as anyone would write it down beside a call of snprintf.
+// The plain arithmetic that goes with a call of snprintf or sscanf.
 fields split(film const& f, int sample) {
   if (f.shape == form::prefixed_perfs) {
     int const shifted = sample + 2;

@@ -1,4 +1,4 @@
-// What the benchmarks share: each work on 4096 random labels, beside the C library's way of it.
+// Runs each task on 4096 random labels, once by the library and once by the C library.
 #pragma once
 
 #include <benchmark/benchmark.h>
@@ -10,7 +10,7 @@
 
 namespace bench {
 
-// 4096 samples from 0 up to an end.
+// Returns 4096 random samples from 0 to end - 1, the same ones in every run.
 [[nodiscard]] inline std::vector<int> random_samples(int end) {
   std::mt19937 random{4096};
   std::vector<int> samples(4096);
@@ -18,7 +18,7 @@ namespace bench {
   return samples;
 }
 
-// Runs `convert` on every label in turn.
+// Calls `convert` for every label, as often as the benchmark asks.
 template <class Labels, class Convert>
 void measure(benchmark::State& state, Labels const& labels, Convert convert) {
   for (auto _ : state)
@@ -26,7 +26,7 @@ void measure(benchmark::State& state, Labels const& labels, Convert convert) {
   state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(labels.size()));
 }
 
-// A work, done by the library and by the C library, on labels of a kind.
+// A task, done by the library and by the C library, on labels of one kind.
 template <class Kind>
 struct work {
   char const* name;
@@ -34,7 +34,7 @@ struct work {
   void (*libc)(benchmark::State&, Kind const&);
 };
 
-// Every work on every kind, under the names that the table of ratios knows.
+// Registers every task on every kind, under the names that ratio_reporter expects. Returns true.
 template <class Works, class Kinds>
 bool register_all(Works const& works, Kinds const& kinds) {
   for (auto const& w : works)

@@ -1,4 +1,4 @@
-// The table that a run ends with: each conversion beside the same work done with the C library, and the ratio.
+// The table at the end of a run: each conversion, the same work done by the C library, and the ratio.
 #pragma once
 
 #include <benchmark/benchmark.h>
@@ -10,8 +10,8 @@
 
 namespace bench {
 
-// Benchmarks are named "WORK/TYPE" and, for the C library's way, "WORK/TYPE/libc". Machines are noisy, so the
-// fastest repetition of each counts, and only ratios within one run mean anything.
+// Expects benchmarks named "TASK/TYPE" and, for the C library, "TASK/TYPE/libc". Machines are noisy, so it takes
+// the fastest repetition of each. Compare ratios within one run, not times of two runs.
 class ratio_reporter : public benchmark::ConsoleReporter {
  public:
   void ReportRuns(std::vector<Run> const& runs) override {

@@ -1,5 +1,5 @@
-// Timecode through the public interface of the shared library, beside the same work done with snprintf and sscanf:
-// 4096 random labels of a day, text and packed BCD both ways.
+// Measures timecode through the public interface of the shared library, against snprintf and sscanf doing the same
+// work: 4096 random labels of a day, text and packed BCD, both ways.
 
 #include <benchmark/benchmark.h>
 
@@ -36,7 +36,7 @@ struct fields {
   int hours, minutes, seconds, frames;
 };
 
-// The arithmetic as anyone would write it down beside a call of snprintf.
+// The plain arithmetic that goes with a call of snprintf or sscanf.
 fields split(rate const& r, int sample) {
   if (r.drop) {
     int const tens = sample / 17'982, in_tens = sample % 17'982;

@@ -7,8 +7,8 @@ In a document,
 
 - a line `EXPRESSION;  // VALUE` in a block of C++ must have that value; a remark may follow behind ": ". The blocks of
   a document are one program. Any other line is compiled as it is.
-- a block of C++ behind `<!-- file: NAME -->` is a file; the files of a document are one program, linked to labelsbase
-  alone. Lines `// prints TEXT` say what it prints.
+- a block of C++ behind `<!-- file: NAME -->` is a file; the files of a document are one program. It is linked to
+  refhost unless it defines a host of its own. Lines `// prints TEXT` say what it prints.
 - a line `$ COMMAND` in a block of console is run in a shell that finds the tool `labels`; the lines that follow it are
   its output, standard error included.
 """
@@ -96,13 +96,15 @@ def check_expressions(document, build_dir, folder, found):
 
 
 def check_files(document, build_dir, folder, found):
-    sources, expected = [], ""
+    sources, expected, libraries = [], "", [build_dir / "refhost/librefhost.a"]
     for _, name, _, lines in found:
+        if any(line.startswith("Kiv::OperatingServices& OS()") for line in lines):
+            libraries = []
         sources.append(folder / name)
         sources[-1].write_text("\n".join(lines) + "\n")
         expected += "".join(line.split("// prints ")[1] + "\n" for line in lines if "// prints " in line)
     program = folder / "program"
-    build(build_dir, program, sources)
+    build(build_dir, program, sources, *libraries)
     actual = subprocess.run([program], capture_output=True, text=True, check=True).stdout
     if actual != expected:
         print(f"{document}: prints\n{actual}not\n{expected}", file=sys.stderr)

@@ -1,5 +1,5 @@
-# Turns plain comments into those that doxygen reads: that of the first line describes the file, one behind code
-# describes what stands before it.
+# Turns plain comments into doxygen's: the first comment describes the file, a comment behind code describes that code,
+# any other the declaration below it. The comment behind a closing brace of a namespace stays plain.
 1s,^// ?,/// \\file\n/// ,
 s,^( *)//( |$),\1///\2,
-s:([;,{}]) +// :\1  ///< :
+/^}  \/\/ namespace/!s:([;,{}]) +// :\1  ///< :

@@ -1,4 +1,4 @@
-// Any label, phase and count through the frame counts.
+// Calls the frame counts with any label, phase and count.
 
 #include <bit>
 

@@ -1,4 +1,4 @@
-// Values out of made-up bytes.
+// Takes values from the fuzzer's bytes.
 #pragma once
 
 #include <algorithm>
@@ -13,7 +13,7 @@ class fuzz_input {
  public:
   fuzz_input(std::uint8_t const* data, std::size_t size) noexcept : data_{data}, left_{size} {}
 
-  // The next four bytes, zeros past the end.
+  // Returns the next four bytes as a number, with zeros past the end.
   template <typename Number = std::int32_t>
   Number number() noexcept {
     std::int32_t value = 0;
@@ -24,7 +24,7 @@ class fuzz_input {
     return static_cast<Number>(value);
   }
 
-  // What is left, terminated, in a block of exactly its size.
+  // Returns the bytes that are left, as a terminated text.
   [[nodiscard]] std::string rest() const { return {reinterpret_cast<char const*>(data_), left_}; }
 
  private:

@@ -1,4 +1,4 @@
-// Any text as a keep string and as a stored roll.
+// Reads any text as a keep string and as a stored roll, and writes it again.
 
 #include <cstdlib>
 

@@ -1,4 +1,4 @@
-// The strict reader on any text: what it accepts is what the type writes, and the label that it names is one.
+// Runs the strict reader on any text. Any nearest label that it suggests must be accepted.
 
 #include <cstdlib>
 

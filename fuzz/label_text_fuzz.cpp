@@ -1,4 +1,4 @@
-// Any text and any sample through any type.
+// Reads any text and writes any sample with any label type.
 
 #include <cstdlib>
 #include <memory>
@@ -23,7 +23,7 @@ int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
     (void)cvt->get_perfs_string(&point, tried);
     (void)cvt->get_abs_smpte_string(&point, tried);
 
-    // What timecode writes of a sample in its day, it reads back.
+    // Timecode must read back every sample of its day that it writes.
     int const normal = cvt->normalise_sample_unit(tried);
     auto const* const timecode = dynamic_cast<timecode_label*>(cvt.get());
     if (timecode && normal < timecode->samples_per_day() &&
