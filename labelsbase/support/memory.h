@@ -2,14 +2,24 @@
 #pragma once
 
 #include <cstddef>
+#include <new>
 
 namespace labelsbase {
 
-// A block of at least `bytes` bytes from the host's allocator. Throws std::bad_alloc when the host has none, after
-// the new-handler has had its say.
+// Returns a block of at least `bytes` bytes. If the host has no memory, calls the new-handler and tries again;
+// throws std::bad_alloc if no new-handler is installed.
 void* host_allocate(std::size_t bytes);
 
-// Gives such a block back; null is allowed.
+// Returns such a block at an address that is a multiple of `alignment`, a power of two.
+void* host_allocate(std::size_t bytes, std::align_val_t alignment);
+
+// Return null instead of throwing.
+void* host_allocate_or_null(std::size_t bytes) noexcept;
+void* host_allocate_or_null(std::size_t bytes, std::align_val_t alignment) noexcept;
+
+// Gives a block back; null is allowed. A block that was asked for with an alignment goes back through the second
+// form.
 void host_free(void* block) noexcept;
+void host_free_aligned(void* block) noexcept;
 
 }  // namespace labelsbase
