@@ -1,5 +1,8 @@
 #include "labelsbase/labelcvt/label_template.h"
 
+#include <algorithm>
+#include <string_view>
+
 #include "labelsbase/samples.h"
 #include "labelsbase/support/text.h"
 
@@ -7,14 +10,17 @@ using namespace labelsbase;
 
 namespace {
 
-// Letters, digits, signs and free fields are filled; separators, blanks and hidden fields stay as they are.
+// Whether placeholders fill the position: letters, digits, signs and free fields.
 constexpr bool is_entry(char c) noexcept { return is_alphanumeric(c) || c == '+' || c == '-' || c == '?'; }
 
+// Returns the text with its entry positions filled, or the text itself if that changes nothing.
 LightweightString<char> filled(LightweightString<char> const& text, char fill) noexcept {
+  std::string_view const characters{text.c_str(), text.length()};
+  auto const changes = [fill](char c) { return is_entry(c) && c != fill; };
+  if (std::ranges::none_of(characters, changes)) return text;
+
   LightweightString<char> result{text.c_str(), text.length()};
-  if (char* c = result.detach())
-    for (; *c; ++c)
-      if (is_entry(*c)) *c = fill;
+  if (char* const begin = result.detach()) std::replace_if(begin, begin + result.length(), changes, fill);
   return result;
 }
 
@@ -24,8 +30,8 @@ constexpr bool is_separator(char c) noexcept {
 
 }  // namespace
 
-// The placeholders are made here, not when they are first asked for: conversions allocate nothing, and threads may
-// read one template at once.
+// Makes the placeholders now, not at first use: conversions allocate nothing, and threads may read one template at
+// once.
 void LabelTemplate::set(LightweightString<char> const& text) noexcept {
   text_ = text;
   invalid_ = filled(text, '?');

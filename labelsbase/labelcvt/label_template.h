@@ -1,37 +1,50 @@
 // The shape of a label's text.
+//
+//   LabelTemplate const shape{"-29.59.59.29"};
+//   shape.isValidChar('3', 1)                       // false: the tens of hours end at 2
+//   shape.isAtSeparator(3)                          // true
+//   shape.getInvalidString(past_end_sample)         // ">>>.>>.>>.>>"
 #pragma once
 
 #include "host/lightweight_string.h"
 #include "labelsbase/export.h"
 
-// What may stand at each position of a label's text, a template character a position:
+// Says what each position of a label's text accepts, one template character a position:
 //
-//   "0" to "9"         a digit up to this one         "A" to "Z", "a" to "z"   a character from "A" up to this one
-//   "?"                any printable character        "-"                      a sign: "+", "-" or a blank
-//   "~"                hidden, takes nothing          blank                    takes nothing
-//   anything else      a separator, takes nothing
+//   template character        accepts
+//   "0" to "9"                a digit up to this one
+//   "A" to "Z", "a" to "z"    a character from "A" up to this one
+//   "?"                       any printable character but a blank
+//   "-"                       a sign: "+", "-" or a blank
+//   "~"                       nothing: the position is hidden
+//   blank                     nothing
+//   any other                 nothing: a separator
 //
-// "+" and "#" are deliberately separators too. Example: "-29.59.59.29" for timecode, "????????9999+19" for a key
-// number of 35 mm film.
+// Deliberate: "+" and "#" are separators too. Timecode has the template "-29.59.59.29", a key number of 35 mm film
+// "????????9999+19".
 class LABELSBASE_API LabelTemplate {
  public:
   constexpr LabelTemplate() noexcept = default;
-  explicit LabelTemplate(LightweightString<char> const& text) noexcept { set(text); }
 
-  // Gives the template its text, and derives the placeholders from it.
+  // A text is a template: `LabelTemplate shape = text;`.
+  LabelTemplate(LightweightString<char> const& text) noexcept {
+    set(text);
+  }  // NOLINT(google-explicit-constructor)
+
+  // Sets the template's text, and derives the placeholders from it.
   void set(LightweightString<char> const& text) noexcept;
 
-  // The template's text; "" when there is none.
+  // Returns the template's text; "" for an empty template.
   [[nodiscard]] char const* text() const noexcept { return text_.c_str(); }
 
-  // Whether a separator stands at `pos`. A position past the end has none.
+  // Whether the character at `pos`, counted from 0, is a separator. False past the end.
   [[nodiscard]] bool isAtSeparator(unsigned pos) const noexcept;
 
-  // Whether `c` may be typed at `pos`. A position past the end takes nothing.
+  // Whether `c` may be typed at `pos`, counted from 0. False past the end.
   [[nodiscard]] bool isValidChar(char c, unsigned pos) const noexcept;
 
-  // The text of a label that cannot be shown, its fields filled with ">" for the past-the-end sample, "<" for the
-  // before-the-start sample and "?" for any other. Good until the template changes.
+  // Returns the text of a label that cannot be shown: its fields filled with ">" for the past-the-end sample, "<"
+  // for the before-the-start sample and "?" for any other. Valid until the template changes.
   [[nodiscard]] char const* getInvalidString(int sample) const noexcept;
 
  private:
