@@ -11,7 +11,7 @@
 #include <random>
 #include <string>
 
-#include "labelsbase/labelcvt/reciprocal.h"
+#include "labelsbase/counts/reciprocal.h"
 
 namespace {
 

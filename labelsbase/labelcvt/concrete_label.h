@@ -1,7 +1,7 @@
 // What makes a class of a row in the table of label types.
 #pragma once
 
-#include "labelsbase/labelcvt/label_types.h"
+#include "labelsbase/labelcvt/label_facts.h"
 
 namespace labelsbase {
 
@@ -11,11 +11,14 @@ class concrete_label : public Family {
  public:
   static constexpr label_t kind = kind_;
 
-  using Family::Family;
-
-  char const* type_str() const override { return label_type_name(kind); }
+  char const* type_str() const override { return facts_of(kind).name; }
   label_t type() const override { return kind; }
-  UserLabelType UserType() const override { return user_label_type(kind); }
+  UserLabelType UserType() const override { return facts_of(kind).family; }
+
+ protected:
+  static_assert(facts_of(kind).has_labels(), "the row of this type says that it has no labels");
+
+  using Family::Family;
 };
 
 }  // namespace labelsbase

@@ -1,9 +1,8 @@
 // The names of label types in edit decision lists.
 
-#include <algorithm>
 #include <string_view>
 
-#include "labelsbase/labelcvt/label_rows.h"
+#include "labelsbase/labelcvt/label_facts.h"
 #include "labelsbase/labelcvt/label_types.h"
 #include "labelsbase/support/text.h"
 
@@ -11,17 +10,17 @@ using namespace labelsbase;
 
 namespace {
 
-// The first type, in table order, whose `column` is `code`.
-label_t first_type_with(char const* label_row::*column, std::string_view code) noexcept {
-  auto const* const row =
-      std::ranges::find_if(label_rows, [&](label_row const& r) { return r.*column && code == r.*column; });
-  return row == std::end(label_rows) ? null_label_t : row->type;
+// Returns the first type, in table order, whose `name` is `code`.
+label_t first_type_with(char const* exchange_names::*name, std::string_view code) noexcept {
+  for (auto const& facts : all_label_facts)
+    if (facts.exchange.*name && code == facts.exchange.*name) return facts.type;
+  return null_label_t;
 }
 
 }  // namespace
 
 char const* label_type_to_edlstr(label_t type) noexcept {
-  auto const* const name = row_of(type).edl_out;
+  auto const* const name = facts_of(type).exchange.written;
   return name ? name : "BAD";
 }
 
@@ -33,8 +32,8 @@ label_t edlstr_to_label_type(char const* text) noexcept {
   for (; length < sizeof code && text[length] && !is_blank(text[length]); ++length)
     code[length] = to_upper(text[length]);
 
-  label_t const type = first_type_with(&label_row::edl_in, {code, length});
-  return type ? type : first_type_with(&label_row::edl_in_long, {code, length});
+  label_t const type = first_type_with(&exchange_names::read, {code, length});
+  return type ? type : first_type_with(&exchange_names::read_long, {code, length});
 }
 
 label_t edlstr_to_label_type(char const* text, UserLabelType family) noexcept {

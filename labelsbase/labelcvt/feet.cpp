@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "labelsbase/labelcvt/three_perf.h"
 #include "labelsbase/samples.h"
 #include "labelsbase/support/text.h"
 
@@ -11,8 +10,15 @@ using namespace labelsbase;
 foot_label::foot_label(int frames_per_foot, int perfs_per_frame, int feet_digits)
     : variable_label{std::max(frames_per_foot, 1), perfs_per_frame},
       feet_digits_{feet_digits},
-      perfs_per_frame_{std::max(perfs_per_frame, 1)} {
+      perfs_per_frame_{std::max(perfs_per_frame, 1)},
+      gauge_{film_gauge::of_frames(perfs_per_frame, frames_per_foot)} {
   foot_label::build_template();
+}
+
+foot_label::foot_label(label_t type)
+    : foot_label{facts_of(type).film.gauge.frames_per_count(), facts_of(type).film.gauge.perfs_per_frame(),
+                 facts_of(type).film.count_digits} {
+  gauge_ = facts_of(type).film.gauge;
 }
 
 char const* foot_label::type_str() const { return label_type_name(foot_label_t); }
@@ -42,27 +48,25 @@ int foot_label::get_abs_sample(char const* text) { return feet_to_samples(text);
 
 char const* foot_label::samples_to_feet(LabelPoint* point, int perfs) {
   if (!point) return "";
-  int frames = wrap_magnitude(perfs) / perfs_per_frame_;
-  auto const limit = std::int64_t{feet_limit()} * modulus_;
-  if (frames >= limit) frames = static_cast<int>(frames - limit);
+  auto at = gauge_.split(wrap_magnitude(perfs));
+  if (at.count >= feet_limit()) at.count -= feet_limit();
 
   text_writer out{point->text};
   if (*point->label_template.text() == '-') out.put(perfs < 0 ? '-' : ' ');
-  out.number(frames / modulus_, feet_digits_).put('+').number(frames % modulus_, 2);
+  out.number(at.count, feet_digits_).put('+').number(at.frame, 2);
   return point->text;
 }
 
-// Deliberate: the digits that are passed over begin where the number was looked for, so after a blank or a second
-// sign none are.
 foot_label::parts foot_label::read_parts(char const* text) noexcept {
-  while (is_blank(*text)) ++text;
-  bool const negative = *text == '-';
-  text += negative;
+  text_reader in{text};
+  in.skip_blanks();
+  bool const negative = in.literal('-');
 
-  int const feet = text_reader{text}.number().value_or(0);
-  while (is_digit(*text)) ++text;
-  if (*text) ++text;
-  return {negative, feet, text_reader{text}.number().value_or(0)};
+  auto const at_feet = in;
+  auto const feet = in.number();
+  if (!feet) in = at_feet;  // a sign without a number separates, as any character does
+  static_cast<void>(in.character());
+  return {negative, feet.value_or(0), in.number().value_or(0)};
 }
 
 int foot_label::feet_to_samples(char const* text) {
@@ -71,21 +75,12 @@ int foot_label::feet_to_samples(char const* text) {
   return negative ? wrap_negate(perfs) : perfs;
 }
 
-foot_35_label::foot_35_label() : concrete_label{16, 4, 4} { foot_35_label::build_template(); }
-void foot_35_label::build_template() { set_shape(".19"); }
-
-foot_16_label::foot_16_label() : concrete_label{40, 1, 4} { foot_16_label::build_template(); }
-void foot_16_label::build_template() { set_shape(".39"); }
-
-foot_353_label::foot_353_label() : concrete_label{22, 3, 4} { foot_353_label::build_template(); }
-void foot_353_label::build_template() { set_shape("+29.3"); }
-
 char const* foot_353_label::samples_to_feet(LabelPoint* point, int perfs) {
   if (!point) return "";
-  auto const at = three_perf::place_of(wrap_magnitude(perfs));
-  feet_ = at.key > feet_limit() ? at.key - feet_limit() : at.key;  // deliberate: only feet above the limit
+  auto const at = gauge_.split(wrap_magnitude(perfs));
+  feet_ = at.count > feet_limit() ? at.count - feet_limit() : at.count;  // deliberate: only feet above the limit
   frame_ = at.frame;
-  remainder_ = at.remainder;
+  remainder_ = at.perfs_left;
 
   text_writer out{point->text};
   out.put(perfs < 0 ? '-' : ' ').number(feet_, feet_digits_).put('+').number(frame_, 2);
@@ -103,6 +98,18 @@ int foot_353_label::feet_to_samples(char const* text) {
   char const last = out.length() > 0 ? label[out.length() - 1] : '\0';
   remainder_ = is_digit(last) ? last - '1' : 0;
   auto const [negative, feet, frames] = read_parts(label);
-  int const perfs = three_perf::perfs_of({feet, frames, remainder_});
+  int const perfs = gauge_.join({feet, frames, remainder_});
   return negative ? wrap_negate(perfs) : perfs;
 }
+
+foot_35_label::foot_35_label() : concrete_label{kind} { foot_35_label::build_template(); }
+foot_35_label::~foot_35_label() = default;
+void foot_35_label::build_template() { set_shape(".19"); }
+
+foot_16_label::foot_16_label() : concrete_label{kind} { foot_16_label::build_template(); }
+foot_16_label::~foot_16_label() = default;
+void foot_16_label::build_template() { set_shape(".39"); }
+
+foot_353_label::foot_353_label() : concrete_label{kind} { foot_353_label::build_template(); }
+foot_353_label::~foot_353_label() = default;
+void foot_353_label::build_template() { set_shape("+29.3"); }

@@ -6,13 +6,14 @@
 using namespace labelsbase;
 
 film_frames_label::film_frames_label() : concrete_label{999'999, 1} { film_frames_label::build_template(); }
+film_frames_label::~film_frames_label() = default;
 
 void film_frames_label::build_template() { set_templates("-999999"); }
 
 char const* film_frames_label::get_abs_string(LabelPoint* point, int frames) {
   if (is_special_sample(frames)) return get_invalid_string(point, frames);
   if (!point) return "";
-  text_writer{point->text}.signed_digits(frames, 6);
+  text_writer{point->text}.signed_digits(frames, facts_of(kind).film.count_digits);
   return point->text;
 }
 

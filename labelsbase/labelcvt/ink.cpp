@@ -10,7 +10,7 @@ using namespace labelsbase;
 
 namespace {
 
-// An ink number of 11 characters: missing ones are zeros in front, too many are left out in the middle.
+// An ink number of 11 characters. A shorter text gets up to 4 zeros in front; a longer one loses its middle.
 class ink_text {
  public:
   explicit ink_text(char const* text) noexcept {
@@ -38,6 +38,9 @@ class ink_text {
   std::size_t length_;
 };
 
+constexpr int frames_of(label_t type) noexcept { return facts_of(type).film.gauge.frames_per_count(); }
+constexpr int perfs_of(label_t type) noexcept { return facts_of(type).film.gauge.perfs_per_frame(); }
+
 }  // namespace
 
 ink_label::ink_label(int frames_per_count, int perfs_per_frame)
@@ -52,8 +55,10 @@ label_t ink_label::type() const { return ink_label_t; }
 UserLabelType ink_label::UserType() const { return User_ink; }
 int ink_label::normalise_sample_unit(int perfs) { return wrap_to_counts(perfs); }
 
+int ink_label::perfs_per_frame() const { return std::max(samples_per_unit(), 1); }
+
 void ink_label::get_counts(int perfs) {
-  int const frames = perfs / samples_per_unit_;
+  int const frames = perfs / perfs_per_frame();
   count_ = frames / modulus_;
   frame_ = frames % modulus_;
 }
@@ -76,7 +81,7 @@ int ink_label::get_abs_sample(char const* text) {
     frame = text_reader{label.c_str() + count_end + 1}.number().value_or(0);
   }
   if (frame < 0 || frame >= modulus_) return invalid_sample;
-  return wrap_mul(samples_per_unit_, wrap_add(wrap_mul(count, modulus_), frame));
+  return wrap_mul(perfs_per_frame(), wrap_add(wrap_mul(count, modulus_), frame));
 }
 
 void ink_label::build_template() {
@@ -88,3 +93,9 @@ void ink_label::build_template() {
 void ink_label::set_prefix(LabelPoint* point, char const* text) {
   prefix_label::set_prefix(point, ink_text{or_empty(text)}.c_str());
 }
+
+ink_35_label::ink_35_label() : concrete_label{frames_of(kind), perfs_of(kind)} {}
+ink_35_label::~ink_35_label() = default;
+
+ink_16_label::ink_16_label() : concrete_label{frames_of(kind), perfs_of(kind)} {}
+ink_16_label::~ink_16_label() = default;

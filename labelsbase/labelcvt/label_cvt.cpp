@@ -1,9 +1,8 @@
 #include "labelsbase/labelcvt/label_cvt.h"
 
+#include "labelsbase/counts/integers.h"
 #include "labelsbase/labelcvt/invalid_converter.h"
 #include "labelsbase/samples.h"
-#include "labelsbase/support/integers.h"
-#include "labelsbase/support/memory.h"
 
 using namespace labelsbase;
 
@@ -17,9 +16,6 @@ char const* label_cvt::get_invalid_string(LabelPoint* point, int sample) const n
   return (point ? point->label_template : label_template_).getInvalidString(sample);
 }
 
-void* label_cvt::operator new(std::size_t bytes) { return host_allocate(bytes); }
-void label_cvt::operator delete(void* block) noexcept { host_free(block); }
-
 void label_cvt::set_templates(char const* text) noexcept {
   label_template_.set(text);
   prefixless_template_ = label_template_;
@@ -31,7 +27,7 @@ int sample_at(LabelPoint const* point, int offset) noexcept {
   return point ? wrap_add(offset, point->sample) : offset;
 }
 
-// Two decimal digits of a packed BCD field; the tens have `tens_mask` to themselves, above the units.
+// Returns a field of two packed decimal digits, whose tens are masked with `tens_mask`.
 constexpr int bcd_field(unsigned packed, unsigned tens_mask) noexcept {
   return static_cast<int>((packed & 15U) + ((packed >> 4) & tens_mask) * 10);
 }

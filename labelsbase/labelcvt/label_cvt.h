@@ -1,118 +1,150 @@
-// The interface of all converters, what they share, and the invalid one.
+// The interface of all converters, what they share, and the invalid converter.
+//
+//   label_cvt& cvt = *get_static_label_cvt(pal_label_t);
+//   LabelPoint point{cvt, 0};
+//   cvt.get_abs_string(&point, 90'000)                      // " 01:00:00.00", in point.text
+//   cvt.get_abs_sample("01:00:00.00")                       // 90000
+//   cvt.get_abs_sample("nonsense")                          // -100000000, the invalid sample
+//   cvt.get_abs_smpte_string(&point, 90'000)                // 0x01000000
+//   cvt.get_sample_span_from_packed_strings("01000000", "01000100")   // 25
+//
+// Packed BCD timecode, as get_abs_smpte_string returns it (digits of SMPTE ST 12-1):
+//
+//   bit    31..28  27..24 | 23..20  19..16 | 15..12  11..8  | 7..4   3..0
+//          tens    units  | tens    units  | tens    units  | tens   units     bit 6: drop-frame
+//          hours          | minutes        | seconds        | frames
 #pragma once
 
 #include <atomic>
-#include <cstddef>
 #include <type_traits>
 
 #include "labelsbase/export.h"
+#include "labelsbase/host_allocated.h"
 #include "labelsbase/labelcvt/label_point.h"
 #include "labelsbase/labelcvt/label_template.h"
 #include "labelsbase/labelcvt/label_types.h"
 
+class timecode_label;
+
 // Everything about one label type: how a sample becomes the text of a label and back. The "abs" operations take
-// and give absolute samples; the plain ones are relative to the sample of a label point.
+// and return absolute samples; the plain ones are relative to the sample of a label point.
 //
-// Texts live in the point's buffer or in constant storage, until the next conversion into that point. A null text
-// reads as an empty one, and a null point as sample 0 without a buffer: its text is "".
+// Returned texts live in the point's buffer or in constant storage, until the next conversion into that point. A
+// null text reads as an empty one. A null point counts as sample 0 and has no buffer: its text is "".
 //
 // Converters keep scratch state between calls: use one from one thread at a time. The order of the virtual
 // operations is part of the interface.
-class LABELSBASE_API label_cvt {
+class LABELSBASE_API label_cvt : public labelsbase::host_allocated {
  public:
-  // Live converters. The shared invalid converter, which the compiler builds, is the first.
+  // Number of live converters. The shared invalid converter, which the compiler builds, is the first.
   static std::atomic<int> howmany;
 
   label_cvt(label_cvt const&) = delete;
   label_cvt& operator=(label_cvt const&) = delete;
 
-  // The name of the class, for example "pal_label".
+  // Returns the name of the class, for example "pal_label".
   virtual char const* type_str() const = 0;
   virtual label_t type() const = 0;
+
+  // Returns the family of the type.
   virtual UserLabelType UserType() const = 0;
+
+  // Whether labels begin with a prefix: key numbers and ink numbers.
   virtual bool has_prefix() const = 0;
 
-  // Characters of the prefix and digits of the count; 0 for types without a prefix.
+  // Returns the characters of the prefix, or 0 for types without one.
   virtual int get_prefix_length() const = 0;
+
+  // Returns the digits of the count behind the prefix, or 0 for types without one.
   virtual int get_count_length() const = 0;
 
-  // The count unit: frames per second for timecode, frames per foot for feet, frames per key for key numbers.
+  // Returns the count unit: frames per second for timecode, per foot for feet, per key for key numbers.
   virtual int get_modulus() const = 0;
 
-  // Samples per frame: perforations for film types, 1 for timecode and frame counts.
+  // Returns the samples per frame: perforations for film types, 1 for timecode and film frames.
   virtual int samples_per_unit() const = 0;
 
-  // A sample moved into the type's range; any value is accepted.
+  // Returns a sample moved into the type's range. Accepts any sample.
   virtual int normalise_sample_unit(int sample) { return sample; }
 
-  // Perforations per key number; 1 where the type has none.
+  // Returns the perforations per key number, or 1 for types that report none.
   virtual int perfs_per_keyKode() const { return 1; }
 
   virtual ~label_cvt() { howmany.fetch_sub(1, std::memory_order_relaxed); }
 
+  // Returns the text of the label `offset` samples after the point.
   virtual char const* get_string(LabelPoint* point, int offset) = 0;
 
-  // The perforation within the key number, as text.
+  // Returns the perforation within the key number, as text; "" for types without key numbers.
   virtual char const* get_perfs_string(LabelPoint* point, int offset) = 0;
 
-  // Packed BCD timecode (SMPTE ST 12-1 digits, drop-frame flag in bit 6); 0 on failure.
+  // Returns packed BCD timecode, or 0 for negative and special samples and for types without it.
   virtual unsigned get_smpte_string(LabelPoint* point, int offset) = 0;
 
-  // Packed BCD timecode as a count of samples, without drop-frame correction; `drop` receives bit 6.
+  // Returns packed BCD timecode as a count of samples, without drop-frame correction. `drop` receives bit 6.
   virtual int get_samples_from_SMPTETc(unsigned& packed, bool& drop);
 
+  // Returns the offset of a label's text from the point, in samples.
   virtual int get_sample(LabelPoint* point, char const* text) = 0;
+
+  // Returns the absolute sample at an offset from the point.
   virtual int get_sample(LabelPoint* point, int offset) = 0;
 
-  // Reads the packed form of exchange files, for example "01000000"; the invalid sample on failure.
+  // Reads the packed form of exchange files, for example "01000000". Returns the invalid sample on failure.
   virtual int get_abs_sample_from_packed_string(char const* text) = 0;
 
-  // Samples from the first packed text to the second, moved into the type's range.
+  // Returns the samples from the first packed text to the second, moved into the type's range.
   virtual int get_sample_span_from_packed_strings(char const* from, char const* to) = 0;
 
+  // Returns the text of the label at a sample; the template's placeholder for a special sample.
   virtual char const* get_abs_string(LabelPoint* point, int sample) = 0;
+
+  // Return packed BCD timecode, and the perforation within the key number as text, at a sample.
   virtual unsigned get_abs_smpte_string(LabelPoint* point, int sample) = 0;
   virtual char const* get_abs_perfs_string(LabelPoint* point, int sample);
 
-  // The sample of a label's text; the invalid sample when it cannot be read.
+  // Returns the sample of a label's text, or the invalid sample if the text cannot be read.
   virtual int get_abs_sample(char const* text) = 0;
 
-  // Text for keep strings, and back.
+  // Write and read the text that keep strings hold.
   virtual char const* get_keep_string(LabelPoint* point, int sample) = 0;
   virtual int get_keep_sample(char const* text) = 0;
 
-  // Samples as seconds, and back, by get_vid_fps; 1e99 and the invalid sample where a type has neither.
+  // Returns samples as seconds, by get_vid_fps; 1e99 for types without seconds.
   virtual double get_V2tc(int samples) = 0;
+
+  // Returns the sample at `seconds`, by get_vid_fps; the invalid sample for types without seconds.
   virtual int get_abs_sample(double seconds) = 0;
 
   // Sets both templates to the type's text. This one empties them.
   virtual void build_template() = 0;
 
-  // The prefix of labels that have none of their own.
+  // Returns the prefix of labels that have none of their own.
   virtual char const* get_dummy_prefix() = 0;
 
+  // Returns the prefix that the point's labels begin with; "" for types without one.
   virtual char const* get_prefix(LabelPoint const* point) const = 0;
+
+  // Takes the point's prefix from a label's text, or from its beginning.
   virtual void set_prefix(LabelPoint* point, char const* text) = 0;
 
   // Whether two samples (fields) make one timecode frame.
   virtual bool isSpecialSlowTC() const { return false; }
 
-  // The character before the frames; 0 where a type has none.
+  // Returns the character before the frames, or 0 for types without one.
   virtual char getFrameSeparator() const { return 0; }
 
-  // The template of the whole label (true) or of the label without its prefix (false).
+  // Returns the template of the whole label (true) or of the label without its prefix (false).
   [[nodiscard]] LabelTemplate const& get_template(bool choice) const noexcept {
     return choice ? label_template_ : prefixless_template_;
   }
 
-  // The placeholder of a special sample, in the shape of the point's template.
+  // Returns the placeholder of a special sample, in the shape of the point's template; without a point, in that of
+  // the converter's own.
   char const* get_invalid_string(LabelPoint* point, int sample) const noexcept;
 
-  // Converters of either side come from the host's allocator and go back to it, whoever deletes them.
-  static void* operator new(std::size_t bytes);
-  static void* operator new(std::size_t, void* place) noexcept { return place; }
-  static void operator delete(void* block) noexcept;
-  static void operator delete(void*, void*) noexcept {}
+  // Returns this converter as a timecode_label, or null if its class does not derive from that.
+  [[nodiscard]] timecode_label* as_timecode() const noexcept { return timecode_; }
 
  protected:
   constexpr label_cvt() noexcept {
@@ -123,9 +155,12 @@ class LABELSBASE_API label_cvt {
 
   LabelTemplate label_template_;
   LabelTemplate prefixless_template_;
+
+  // Hosts may be built without run-time type information: the class says what it is.
+  timecode_label* timecode_ = nullptr;
 };
 
-// A label of no particular kind: the answers that the families start from.
+// A label of no particular kind. The families start from its answers.
 class LABELSBASE_API variable_label : public label_cvt {
  public:
   constexpr variable_label(int modulus, int samples_per_unit) noexcept
@@ -166,7 +201,7 @@ class LABELSBASE_API variable_label : public label_cvt {
   int samples_per_unit_;
 };
 
-// The invalid converter: every sample is "???" and every text the invalid sample.
+// The invalid converter. Every sample is "???" and every text reads as the invalid sample.
 class LABELSBASE_API dummy_label : public variable_label {
  public:
   constexpr dummy_label() noexcept : variable_label{1, 1} {}

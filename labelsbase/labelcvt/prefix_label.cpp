@@ -12,14 +12,14 @@ using namespace labelsbase;
 
 namespace {
 
-// The first `length` characters of a text that may lack its terminator, written into a buffer of a prefix's size.
+// Copies the first `length` characters of a text that may lack its terminator. Longer prefixes are cut.
 void copy_prefix(char (&to)[prefix_label::longest_prefix + 1], char const* text, std::size_t length) noexcept {
   auto const size = strnlen(text, std::min(length, sizeof to - 1));
   std::memmove(to, text, size);
   to[size] = '\0';
 }
 
-// Whether a prefix field holds a prefix of this length or a longer text.
+// Whether a point's prefix field holds `length` characters or more.
 bool has_whole_prefix(char const* prefix, std::size_t length) noexcept {
   if (length > LabelPoint::prefix_length) return false;
   for (; length > 0; --length)
@@ -81,13 +81,14 @@ void prefix_label::build_template() {
   set_count_templates(frames);
 }
 
-int prefix_label::typed_frames() const noexcept { return wrap_add((modulus_ - 1) / 10 * 10, 9); }
+int prefix_label::typed_frames() const noexcept { return wrap_add(wrap_sub(modulus_, 1) / 10 * 10, 9); }
 
 void prefix_label::set_count_templates(char const* frames) noexcept {
   auto const shape_of = [&](char prefix_character, auto& text) {
+    std::size_t const shown = std::min<std::size_t>(total_length_, sizeof text - 1);
     text_writer out{text};
-    for (unsigned i = 0; i < std::min(prefix_length_, total_length_); ++i) out.put(prefix_character);
-    while (out.length() < std::min<std::size_t>(total_length_, sizeof text - 1)) out.put('9');
+    while (out.length() < std::min<std::size_t>(prefix_length_, shown)) out.put(prefix_character);
+    while (out.length() < shown) out.put('9');
     out.put('+').put(frames);
   };
   char text[64];
@@ -105,13 +106,13 @@ char const* prefix_label::write_label(LabelPoint* point, int count, int frame, c
 
   constexpr int longest = 19;
   auto const& own = *point->converter;
-  char const* prefix = own.get_prefix(point);
+  char const* prefix = or_empty(own.get_prefix(point));
   char* out = point->text;
   for (int left = std::min(own.get_prefix_length(), longest); left > 0 && *prefix; --left) *out++ = *prefix++;
 
   // Nearly every label has two digits of frames behind a count of its length.
   auto const room = point->text + longest - out;
-  auto const digits = static_cast<int>(count_length_);
+  auto const digits = static_cast<int>(std::min(count_length_, unsigned{longest}));
   bool const in_columns = count <= count_maximum_ && frame >= 0 && frame < 100 && digits > 1 && digits + 5 <= room;
   if (in_columns) {
     put_digits(out, static_cast<unsigned>(count), digits);
@@ -141,9 +142,10 @@ int prefix_label::read_count(char const* text, std::size_t length, char filler) 
   return number <= count_maximum_ ? std::max(number, -1) : -1;
 }
 
-int prefix_label::wrap_to_counts(int sample) const noexcept {
-  auto const span = (std::int64_t{count_maximum_} + 1) * modulus_ * samples_per_unit_;
-  if (span <= 0) return sample;
+int prefix_label::wrap_to_counts(int sample) const {
+  auto const frames = (std::int64_t{count_maximum_} + 1) * modulus_;
+  std::int64_t span = 0;
+  if (__builtin_mul_overflow(frames, samples_per_unit(), &span) || span <= 0) return sample;
   auto const rest = sample % span;
   return static_cast<int>(rest < 0 ? rest + span : rest);
 }

@@ -1,4 +1,10 @@
 // Converters of labels with a prefix: key numbers and ink numbers.
+//
+//   field       characters                        example: key number   ink number
+//   prefix      total length less the count       KJ123456              AB12
+//   count       4, 5 or 6 digits                  0123                  0123
+//   separator   one                               +                     +
+//   frame       2 digits, within the count        07                    07
 #pragma once
 
 #include "labelsbase/export.h"
@@ -6,51 +12,58 @@
 
 // A label of prefix, count, separator and frame within the count, for example "KJ1234560123+07".
 //
-// Deliberate: the converter remembers the prefix last read from a point or given to one, and uses it for points
-// that have none of their own.
+// Deliberate: the converter remembers the prefix that it last read from a point or gave to one, and uses it for
+// points without a whole prefix of their own.
 class LABELSBASE_API prefix_label : public variable_label {
  public:
   static constexpr int longest_prefix = 20;  // characters
 
-  // `modulus` frames per count, `samples_per_unit` perforations per frame, `total_length` characters of prefix and
-  // count together.
+  // `modulus`: frames per count. `samples_per_unit`: perforations per frame. `total_length`: characters of prefix
+  // and count together, from 0.
   prefix_label(int modulus, int samples_per_unit, int total_length) noexcept;
 
-  // Gives the count `digits` digits, and the prefix the rest of the total length. Templates stay as they were.
+  // Sets the count to `digits` digits, and the prefix to the rest of the total length. Templates stay as they
+  // were: call build_template() afterwards.
   void set_count_len(unsigned digits) noexcept;
 
   char const* type_str() const override;
   label_t type() const override;
 
+  // Returns true.
   bool has_prefix() const override;
 
-  // Characters, or digits; -1 until set_count_len.
+  // Return the characters of the prefix and the digits of the count; -1 before set_count_len.
   int get_prefix_length() const override;
   int get_count_length() const override;
 
+  // Sets the templates, for example to "????????9999+19" and "~~~~~~~~9999+19".
   void build_template() override;
+
+  // Returns the prefix for labels that have none: "XX000000" for key numbers, "XXXX" for ink numbers.
   char const* get_dummy_prefix() override;
 
-  // The point's prefix if it has a whole one, else the one remembered, else the dummy prefix.
+  // Returns the point's prefix if it has a whole one, else the remembered prefix, else the dummy prefix.
   char const* get_prefix(LabelPoint const* point) const override;
 
-  // Gives the point the prefix and count of `text`, a label or its beginning. A shorter text leaves the point
-  // alone once the converter remembers a prefix, and gives it the dummy prefix before.
+  // Gives the point the prefix and count of `text`, which is a label or its beginning. A text shorter than the
+  // prefix leaves the point alone if the converter remembers a prefix, and otherwise gives it the dummy prefix.
   void set_prefix(LabelPoint* point, char const* text) override;
 
  protected:
-  // The text of a count and a frame in it, with the prefix of the point's converter; `perf_digit` is put behind a
-  // "." unless it is 0. "NEGATIVE" for a count below zero. A count above the largest starts again, once.
+  // Returns the text of a count and a frame within it, behind the prefix of the point's converter. A `perf_digit`
+  // other than 0 follows after a ".". Returns "NEGATIVE" for a count below zero. A count above the largest starts
+  // again, once.
   char const* write_label(LabelPoint* point, int count, int frame, char separator, int perf_digit = 0) const;
 
-  // The number in the count's characters of a text, after those that fill it up in front; -1 when it is not one
-  // that the count can hold.
+  // Returns the number in the count's characters of a text, or -1 if it is not one that the count can hold. Skips
+  // `filler` characters in front of it.
   [[nodiscard]] int read_count(char const* text, std::size_t length, char filler) const noexcept;
 
-  // A sample within all counts that can be written.
-  [[nodiscard]] int wrap_to_counts(int sample) const noexcept;
+  // Returns a sample moved into the range of the counts that can be written.
+  [[nodiscard]] int wrap_to_counts(int sample) const;
 
-  // The frames as a template has them: a digit only bounds what is typed, so the units may be up to 9.
+  // Returns the largest frame of a template. A template bounds single digits, so the units reach 9: 19 for 16
+  // frames.
   [[nodiscard]] int typed_frames() const noexcept;
 
   // Sets both templates to prefix, count, "+" and `frames`.

@@ -10,6 +10,7 @@
 #include "labelsbase/labelcvt/ink.h"
 #include "labelsbase/labelcvt/invalid_converter.h"
 #include "labelsbase/labelcvt/keycode.h"
+#include "labelsbase/labelcvt/label_facts.h"
 #include "labelsbase/labelcvt/timecode.h"
 #include "labelsbase/support/broken.h"
 #include "labelsbase/support/text.h"
@@ -18,61 +19,110 @@ using namespace labelsbase;
 
 namespace {
 
-using maker = label_cvt* (*)();
+// Reaches what timecode_label keeps for the classes below it. A converter made here is of the named class itself,
+// so nothing overrides its arithmetic.
+struct settled : timecode_label {
+  static void settle(timecode_label& converter) noexcept { (converter.*&settled::settle_arithmetic)(); }
+};
 
 template <class Cvt>
 label_cvt* make() {
   if constexpr (std::is_base_of_v<timecode_label, Cvt>) {
     auto* const made = new Cvt(Format_full);
-    use_one_pass(*made);
+    settled::settle(*made);
     return made;
   } else {
     return new Cvt();
   }
 }
 
+using maker = label_cvt* (*)();
+
 template <class... Cvts>
-constexpr auto makers_of() noexcept {
+consteval auto makers_of() {
   std::array<maker, numLabelCvts> makers{};
   ((makers[Cvts::kind] = &make<Cvts>), ...);
   return makers;
 }
 
-// The makers by type. Types without a class here have the invalid converter.
-// clang-format off
-constexpr auto makers = makers_of<
-    pal_label, ntsc_label, ntsc_drop_label, tc_24_label, tc_48_label, tc_50_label, tc_60_label,
-    tc_50_duration_label, tc_60_duration_label, tc_12_label, tc_15_label, tc_20_label, tc_80_label,
-    tc_90_label, tc_100_label, tc_120_label, tc_240_label,
-    keycode_35_label, keycode_35_label_4, keycode_35_label_5, keycode_35_label_6,
-    keycode_16_label, keycode_16_label_4, keycode_16_label_5, keycode_16_label_6,
-    keycode_353_label, keycode_353_label_4, keycode_353_label_5, keycode_353_label_6,
-    keycode_352_label, keycode_358_label, keycode_655_80_label, keycode_658_80_label, keycode_6510_80_label,
-    keycode_655_120_label, keycode_658_120_label, keycode_6510_120_label, keycode_6515_120_label,
-    ink_35_label, ink_16_label, foot_35_label, foot_16_label, foot_353_label, film_frames_label>();
-// clang-format on
+template <class... Cvts>
+struct class_list {
+  static constexpr auto makers = makers_of<Cvts...>();
+
+  [[nodiscard]] static consteval bool has(label_t type) { return ((Cvts::kind == type) || ...); }
+};
+
+// The classes, by which their types have labels. All other types have the invalid converter.
+using classes =
+    class_list<pal_label, ntsc_label, ntsc_drop_label, tc_24_label, tc_48_label, tc_50_label, tc_60_label,
+               tc_50_duration_label, tc_60_duration_label, tc_12_label, tc_15_label, tc_20_label, tc_80_label,
+               tc_90_label, tc_100_label, tc_120_label,
+               tc_240_label,                                                                                  //
+               keycode_35_label, keycode_35_label_4, keycode_35_label_5, keycode_35_label_6,                  //
+               keycode_16_label, keycode_16_label_4, keycode_16_label_5, keycode_16_label_6,                  //
+               keycode_353_label, keycode_353_label_4, keycode_353_label_5, keycode_353_label_6,              //
+               keycode_352_label, keycode_358_label,                                                          //
+               keycode_655_80_label, keycode_658_80_label, keycode_6510_80_label,                             //
+               keycode_655_120_label, keycode_658_120_label, keycode_6510_120_label, keycode_6515_120_label,  //
+               ink_35_label, ink_16_label, foot_35_label, foot_16_label, foot_353_label, film_frames_label>;
+
+[[nodiscard]] consteval label_t first_without_class() {
+  for (auto const& facts : all_label_facts)
+    if (facts.has_labels() && !classes::has(facts.type)) return facts.type;
+  return null_label_t;
+}
+
+// The compiler names the type at fault as the argument of this template.
+template <label_t first_at_fault>
+struct every_type_with_labels_has_a_class {
+  static_assert(first_at_fault == null_label_t, "this label type has labels, but its class is not in the list");
+  static constexpr bool holds = true;
+};
+
+static_assert(every_type_with_labels_has_a_class<first_without_class()>::holds);
 
 maker maker_of(label_t type) noexcept {
-  return is_label_type(type) ? makers[static_cast<std::size_t>(type)] : nullptr;
+  return is_label_type(type) ? classes::makers[static_cast<std::size_t>(type)] : nullptr;
 }
+
+// Returns a new converter, or null if the host has no memory for it.
+label_cvt* make_or_null(maker make_one) noexcept {
+  try {
+    return make_one();
+  } catch (...) {
+    return nullptr;
+  }
+}
+
+label_cvt* new_invalid_converter() { return new dummy_label(); }
 
 using converters = std::array<label_cvt*, numLabelCvts>;
 
+// While a thread builds the registry, the host answers for its settings. A host that asks for a label then gets
+// the invalid converter.
+thread_local bool is_building = false;
+
+converters build_converters() noexcept {
+  converters made;
+  is_building = true;
+  std::ranges::transform(classes::makers, made.begin(), [](maker make_one) -> label_cvt* {
+    auto* const converter = make_one ? make_or_null(make_one) : nullptr;
+    return converter ? converter : &invalid_converter.converter;
+  });
+  is_building = false;
+  return made;
+}
+
 // Never freed: points hold on to these to the last.
 converters const& shared_converters() {
-  static converters const all = [] {
-    converters made;
-    std::ranges::transform(makers, made.begin(), [](maker make_one) -> label_cvt* {
-      return make_one ? make_one() : &invalid_converter.converter;
-    });
-    return made;
-  }();
+  static converters const all = build_converters();
   return all;
 }
 
 }  // namespace
 
 label_cvt* get_static_label_cvt(label_t type) {
+  if (is_building) return &invalid_converter.converter;
   auto const& shared = shared_converters();
   if (is_label_type(type)) return shared[static_cast<std::size_t>(type)];
   broken("false", labelcvt_module);
@@ -80,6 +130,7 @@ label_cvt* get_static_label_cvt(label_t type) {
 }
 
 label_t get_label_type(char const* name) {
+  if (is_building) return null_label_t;
   auto const& shared = shared_converters();
   auto const found = std::ranges::find(shared, std::string_view{or_empty(name)},
                                        [](label_cvt const* cvt) { return std::string_view{cvt->type_str()}; });
@@ -88,5 +139,5 @@ label_t get_label_type(char const* name) {
 
 label_cvt* make_any_label_cvt(label_t type) {
   maker const make_one = maker_of(type);
-  return make_one ? make_one() : new dummy_label();
+  return make_or_null(make_one ? make_one : new_invalid_converter);
 }

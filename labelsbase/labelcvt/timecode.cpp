@@ -1,86 +1,220 @@
-// Timecode: construction and the arithmetic of hours, minutes, seconds and frames.
-
 #include "labelsbase/labelcvt/timecode.h"
 
 #include <algorithm>
 #include <cmath>
 
 #include "host/config.h"
-#include "labelsbase/labelcvt/drop_frame.h"
-#include "labelsbase/labelcvt/timecode_rows.h"
+#include "labelsbase/samples.h"
 #include "labelsbase/support/broken.h"
-#include "labelsbase/support/integers.h"
+#include "labelsbase/support/digits.h"
+#include "labelsbase/support/text.h"
 
 using namespace labelsbase;
 
+namespace {
+
+constexpr timecode_count ntsc_drop = facts_of(ntsc_drop_label_t).timecode.count();
+
+// Types without timecode count as this one does.
+constexpr timecode_facts const& timecode_of(label_t type) noexcept {
+  return facts_of(facts_of(type).is_timecode() ? type : pal_label_t).timecode;
+}
+
+// Returns the largest frames of a template, which bounds single digits: 29 for 24 frames a second, 199 for 120.
+constexpr int typed_frames(int frames_per_second) noexcept {
+  int nines = 9;
+  while (nines < (frames_per_second - 1) / 10) nines = nines * 10 + 9;
+  return (frames_per_second - 1) / (nines + 1) * (nines + 1) + nines;
+}
+
+static_assert(typed_frames(24) == 29 && typed_frames(60) == 59 && typed_frames(100) == 99 &&
+              typed_frames(120) == 199);
+
+// Reads two digits at `text`. Returns false if other characters are there.
+inline bool read_pair(char const* text, int& value) noexcept {
+  auto const tens = static_cast<unsigned>(text[0]) - '0';
+  if (tens > 9) return false;
+  auto const units = static_cast<unsigned>(text[1]) - '0';
+  if (units > 9) return false;
+  value = static_cast<int>(tens * 10 + units);
+  return true;
+}
+
+// Reads a label in full columns, as nearly every text has them. Returns false for any other, which may be a label
+// all the same.
+//
+//   " "? dd ":" dd ":" dd non-digit dd d?
+inline bool read_columns(char const* text, timecode_fields& fields) noexcept {
+  text += *text == ' ';
+  if (!read_pair(text, fields.hours) || text[2] != ':') return false;
+  if (!read_pair(text + 3, fields.minutes) || text[5] != ':') return false;
+  if (!read_pair(text + 6, fields.seconds) || !text[8] || is_digit(text[8])) return false;
+  if (!read_pair(text + 9, fields.frames)) return false;
+  if (!is_digit(text[11])) return true;
+  fields.frames = fields.frames * 10 + (text[11] - '0');
+  return !is_digit(text[12]);
+}
+
+// Writes a label in full columns. Hours are below 100, frames below 10 to the `frame_digits`, 2 or 3.
+inline void put_columns(char* out, timecode_fields const& fields, char separator, int frame_digits) noexcept {
+  put_pair(out, fields.hours);
+  out[2] = ':';
+  put_pair(out + 3, fields.minutes);
+  out[5] = ':';
+  put_pair(out + 6, fields.seconds);
+  out[8] = separator;
+  out += 9;
+  if (frame_digits == 3) *out++ = static_cast<char>('0' + fields.frames / 100);
+  put_pair(out, frame_digits == 3 ? fields.frames % 100 : fields.frames);
+  out[2] = '\0';
+}
+
+// Writes the fields that `format` asks for. Fields that it does not ask for are left out while they are zero, from
+// the left. A sample more than a day below zero has negative fields.
+void put_fields(text_writer& out, timecode_fields const& fields, unsigned format, char separator,
+                int frame_digits) noexcept {
+  bool written = false;
+
+  // Once a field is written, all that follow are, with two digits. The first one has one digit below 10 unless the
+  // format asks for it.
+  auto const field = [&](int value, timecode_format always, char const* after) {
+    if (!written && !(format & always) && value == 0) return;
+    bool const one_digit = !written && !(format & always) && value > 0;
+    out.number(value, one_digit ? 1 : 2).put(after);
+    written = true;
+  };
+  field(fields.hours, Format_hours, ":");
+  field(fields.minutes, Format_minutes, ":");
+  field(fields.seconds, Format_seconds, "");
+
+  // Deliberate: a format without fields and separator shows nothing in the first second.
+  if (!written && !(format & Format_separator)) return;
+  out.put(separator).number(fields.frames, frame_digits);
+}
+
+bool has_sign_column(LabelPoint const& point) noexcept { return *point.label_template.text() == '-'; }
+
+// Returns two decimal digits side by side, the tens unmasked.
+constexpr unsigned bcd(int value) noexcept {
+  auto const v = static_cast<unsigned>(value);
+  return (v / 10) << 4 | v % 10;
+}
+
+constexpr unsigned packed(timecode_fields const& fields, bool drop) noexcept {
+  unsigned const drop_flag = drop ? 0x40U : 0U;
+  return bcd(fields.hours) << 24 | bcd(fields.minutes) << 16 | bcd(fields.seconds) << 8 | bcd(fields.frames) |
+         drop_flag;
+}
+
+// Prints the assertion message for a sample that should not be negative. The types with three digits of frames
+// report from lines of their own: hosts tell them apart in their logs.
+void report_negative(label_t type) noexcept {
+  int line = __LINE__;
+  if (type == tc_120_label_t) line = __LINE__;
+  if (type == tc_240_label_t) line = __LINE__;
+  broken("abs_sample >= 0", labelcvt_module, line);
+}
+
+}  // namespace
+
 timecode_label::timecode_label(int frames_per_second, int format)
     : variable_label{frames_per_second, 1}, format_{static_cast<unsigned>(format)} {
+  timecode_ = this;
   init();
   timecode_label::build_template();
 }
 
 timecode_label::timecode_label(label_t rate_type, int format)
-    : variable_label{rate_row_of(rate_type).fps, 1}, format_{static_cast<unsigned>(format)} {
-  auto const& row = rate_row_of(rate_type);
+    : variable_label{timecode_of(rate_type).frames_per_second, 1}, format_{static_cast<unsigned>(format)} {
+  auto const& facts = timecode_of(rate_type);
+  timecode_ = this;
   init();
-  if (row.setting)
-    use_setting(row.setting, row.slow_fps);
-  else
-    samples_per_day_ = row.samples_per_day;
-
-  separator_ = row.separator;
-  frame_digits_ = row.frame_digits;
-  shape_ = row.shape;
-  drop_frame_ = row.type == ntsc_drop_label_t;
+  if (facts.setting) use_setting(facts);
+  if (facts.drop_frame) {
+    count_ = facts.count();
+    samples_per_day_ = count_.labels_per_day();
+  }
+  separator_ = facts.separator;
+  frame_digits_ = facts.frame_digits();
+  typed_frames_ = typed_frames(facts.frames_per_second);
   timecode_label::build_template();
 }
 
 void timecode_label::init() {
   modulus_ = std::max(modulus_, 1);
   separator_ = '.';
-  samples_per_day_ = wrap_mul(modulus_, 86'400);
+  count_ = timecode_count{modulus_};
+  samples_per_day_ = count_.labels_per_day();
 }
 
-void timecode_label::use_setting(char const* key, int slow_fps) {
-  int const setting = config_int(key, 1);
+void timecode_label::use_setting(timecode_facts const& facts) {
+  int const setting = config_int(facts.setting, 1);
   if (setting == 2) format_ |= Format_slow_timecode;
-  if (setting == 2 || setting == 3) modulus_ = slow_fps;
+  if (setting == 2 || setting == 3) modulus_ = facts.slow_frames_per_second;
   init();
 }
 
-void labelsbase::use_one_pass(timecode_label& converter) noexcept {
-  if (converter.isSpecialSlowTC() || !(converter.format_ & Format_hours)) return;
-  converter.one_pass_samples_ = static_cast<unsigned>(converter.samples_per_day_);
-  converter.per_frames_per_second_ = reciprocal{converter.modulus_};
-}
-
-timecode_label* labelsbase::as_timecode(label_cvt* converter) {
-  return converter->UserType() == User_timecode ? dynamic_cast<timecode_label*>(converter) : nullptr;
+void timecode_label::settle_arithmetic() noexcept {
+  arithmetic_is_settled_ = true;
+  bool const has_columns = (format_ & Format_hours) && !(format_ & Format_slow_timecode);
+  plain_samples_ = has_columns ? static_cast<unsigned>(samples_per_day_) : 0;
 }
 
 char const* timecode_label::type_str() const { return label_type_name(timecode_label_t); }
 label_t timecode_label::type() const { return timecode_label_t; }
 UserLabelType timecode_label::UserType() const { return User_timecode; }
 bool timecode_label::isSpecialSlowTC() const { return (format_ & Format_slow_timecode) != 0; }
-void timecode_label::build_template() { set_templates(shape_); }
 
-int timecode_label::normalise_sample_unit(int sample) {
-  int const day = samples_per_day_;
-  if (day < 1 || (sample >= 0 && sample <= day)) return sample;
+// The template keeps its text even if a setting slows the count.
+void timecode_label::build_template() {
+  char shape[32];
+  text_writer{shape}.put("-29.59.59.").number(typed_frames_);
+  set_templates(shape);
+}
 
-  int const rest = sample % day;
-  if (sample > 0) return rest == 0 ? day : rest;
-  return rest < 0 ? rest + day : 0;
+// --- Arithmetic ---
+
+int timecode_label::normalise_sample_unit(int sample) { return wrap_span(sample, samples_per_day_); }
+
+void timecode_label::remember(timecode_fields const& fields) noexcept {
+  hours_ = fields.hours;
+  minutes_ = fields.minutes;
+  seconds_ = fields.seconds;
+  frames_ = fields.frames;
+}
+
+timecode_fields timecode_label::remembered() const noexcept { return {hours_, minutes_, seconds_, frames_}; }
+
+void timecode_label::sample_to_hmsf(int sample, bool& second_field) {
+  bool const is_slow = (format_ & Format_slow_timecode) != 0;
+  second_field = is_slow && (sample & 1) != 0;
+  if (is_slow) sample /= 2;
+  remember(timecode_count{modulus_}.split(wrap_into_day(sample, samples_per_day_)));
+}
+
+int timecode_label::hmsf_to_sample() { return timecode_count{modulus_}.join(remembered()); }
+
+void ntsc_drop_label::sample_to_hmsf(int sample, bool& second_field) {
+  second_field = false;
+  remember(ntsc_drop.split(wrap_into_day(sample, ntsc_drop.labels_per_day())));
+}
+
+int ntsc_drop_label::hmsf_to_sample() { return ntsc_drop.join(remembered()); }
+
+int timecode_label::sample_of(timecode_fields const& fields) {
+  remember(fields);
+  return arithmetic_is_settled_ ? count_.join(fields) : hmsf_to_sample();
 }
 
 int timecode_label::get_abs_hmsf(int sample, short& h, short& m, short& s, short& f) {
   bool second_field = false;
   sample_to_hmsf(sample, second_field);
-  h = static_cast<short>(hours_);
-  m = static_cast<short>(minutes_);
-  s = static_cast<short>(seconds_);
-  f = static_cast<short>(frames_);
-  return frames_;
+  auto const fields = remembered();
+  h = static_cast<short>(fields.hours);
+  m = static_cast<short>(fields.minutes);
+  s = static_cast<short>(fields.seconds);
+  f = static_cast<short>(fields.frames);
+  return fields.frames;
 }
 
 double timecode_label::get_V2tc(int samples) {
@@ -93,48 +227,151 @@ int timecode_label::get_abs_sample(double seconds) {
   return to_int(std::floor((seconds + 0.0001) * get_vid_fps(type())));
 }
 
-namespace {
+// --- Texts and packed digits ---
 
-// Into the day. Deliberate: one day is added once, so a sample further below zero stays negative, and its fields
-// come out negative.
-int wrap_day(int sample, int day) noexcept {
-  if (sample < 0) sample = wrap_add(sample, day);
-  return day > 0 && sample >= day ? sample % day : sample;
+char const* timecode_label::sample_to_string(LabelPoint* point, int sample) {
+  if (point && splits_plainly(sample)) {
+    auto const fields = count_.split(sample);
+    remember(fields);
+    char* out = point->text;
+    if (has_sign_column(*point)) *out++ = ' ';
+    put_columns(out, fields, separator_, frame_digits_);
+    return point->text;
+  }
+  if (is_special_sample(sample)) return get_invalid_string(point, sample);
+  if (!point) return "";
+  write_any(*point, sample);
+  return point->text;
 }
 
-}  // namespace
+void timecode_label::write_any(LabelPoint& point, int sample) {
+  text_writer out{point.text};
+  if (has_sign_column(point)) {
+    out.put(sample < 0 ? '-' : ' ');
+    if (sample < 0) sample = wrap_negate(sample);
+  } else if (sample < 0) {
+    report_negative(type());
+  }
 
-void timecode_label::split(int label) noexcept {
-  int const seconds = label / modulus_;
-  hours_ = seconds / 3600;
-  minutes_ = seconds / 60 % 60;
-  seconds_ = seconds % 60;
-  frames_ = label % modulus_;
+  bool second_field = false;
+  sample_to_hmsf(sample, second_field);
+  bool const is_slow = (format_ & Format_slow_timecode) != 0;
+  char const separator = !is_slow ? separator_ : second_field ? ':' : '.';
+  put_fields(out, remembered(), format_, separator, frame_digits_);
 }
 
-void timecode_label::sample_to_hmsf(int sample, bool& second_field) {
-  second_field = isSpecialSlowTC() && (sample & 1) != 0;
-  if (isSpecialSlowTC()) sample /= 2;
-  split(wrap_day(sample, samples_per_day_));
+bool timecode_label::read_fields(char const* text, unsigned format, timecode_fields& fields) const noexcept {
+  if ((format & Format_hours) && read_columns(text, fields)) return true;
+
+  text_reader in{text};
+  auto const field = [&](int& value) {
+    auto const number = in.number();
+    if (number) value = *number;
+    return number.has_value();
+  };
+  fields = {0, 0, seconds_, frames_};
+  if (format & Format_hours) {
+    if (!field(fields.hours) || !in.literal(':') || !field(fields.minutes) || !in.literal(':')) return false;
+  } else if (format & Format_minutes) {
+    if (!field(fields.minutes) || !in.literal(':')) return false;
+  } else if (!(format & Format_seconds)) {
+    return false;
+  }
+  return field(fields.seconds) && in.character() && field(fields.frames);
 }
 
-int timecode_label::hmsf_to_sample() {
-  int const minutes = wrap_add(wrap_mul(hours_, 60), minutes_);
-  int const seconds = wrap_add(wrap_mul(minutes, 60), seconds_);
-  return wrap_add(wrap_mul(seconds, modulus_), frames_);
+int timecode_label::get_abs_sample(char const* text) {
+  timecode_fields fields;
+  text = or_empty(text);
+  bool const negative = *text == '-';
+  if (!read_fields(text + negative, format_, fields)) {
+    remember(fields);
+    return negative ? unreadable_negative_sample : invalid_sample;
+  }
+  int const sample = sample_of(fields);
+  return negative ? wrap_negate(sample) : sample;
 }
 
-void ntsc_drop_label::sample_to_hmsf(int sample, bool& second_field) {
-  second_field = false;
-  sample = wrap_day(sample, drop_frame::day);
-  if (sample >= 0) return split(drop_frame::label_number(sample));
-
-  // More than a day below zero, only hours and tens of minutes are split off.
-  int const in_tens = sample % drop_frame::ten_minutes;
-  hours_ = sample / drop_frame::hour;
-  minutes_ = sample % drop_frame::hour / drop_frame::ten_minutes * 10;
-  seconds_ = in_tens / 30;
-  frames_ = in_tens % 30;
+int ntsc_drop_label::get_abs_sample(char const* text) {
+  timecode_fields fields;
+  text = or_empty(text);
+  if (*text == '-') return 0;
+  if (read_fields(text, Format_hours, fields)) return sample_of(fields);
+  remember(fields);
+  return invalid_sample;
 }
 
-int ntsc_drop_label::hmsf_to_sample() { return drop_frame::sample_of({hours_, minutes_, seconds_, frames_}); }
+int timecode_label::get_abs_sample_from_packed_string(char const* text) {
+  text_reader in{text};
+  auto const hours = in.number(2);
+  auto const minutes = in.number(2);
+  auto const seconds = in.number(2);
+  auto const frames = in.number(frame_digits_);
+  if (!hours || !minutes || !seconds || !frames) return invalid_sample;
+  return sample_of({*hours, *minutes, *seconds, *frames});
+}
+
+int timecode_label::get_sample_span_from_packed_strings(char const* from, char const* to) {
+  int const start = get_abs_sample_from_packed_string(from);
+  return normalise_sample_unit(wrap_sub(get_abs_sample_from_packed_string(to), start));
+}
+
+char const* timecode_label::get_abs_string(LabelPoint* point, int sample) {
+  return sample_to_string(point, sample);
+}
+
+// Deliberate: frames are packed as counted, so from 40 up their tens reach the drop-frame bit and beyond.
+unsigned timecode_label::sample_to_smpte_string(LabelPoint*, int sample) {
+  if (splits_plainly(sample)) {
+    auto const fields = count_.split(sample);
+    remember(fields);
+    return packed(fields, count_.is_drop_frame());
+  }
+  if (sample < 0 || is_special_sample(sample)) return 0;
+  bool second_field = false;
+  sample_to_hmsf(sample, second_field);
+  return packed(remembered(), type() == ntsc_drop_label_t);
+}
+
+unsigned timecode_label::get_abs_smpte_string(LabelPoint* point, int sample) {
+  return sample_to_smpte_string(point, sample);
+}
+
+// Constructors and destructors are defined here, so that the classes' tables of virtual functions are the
+// library's alone.
+// clang-format off
+pal_label::pal_label(int format) : timecode_rate{format} {}
+pal_label::~pal_label() = default;
+ntsc_label::ntsc_label(int format) : timecode_rate{format} {}
+ntsc_label::~ntsc_label() = default;
+tc_24_label::tc_24_label(int format) : timecode_rate{format} {}
+tc_24_label::~tc_24_label() = default;
+tc_48_label::tc_48_label(int format) : timecode_rate{format} {}
+tc_48_label::~tc_48_label() = default;
+tc_50_label::tc_50_label(int format) : timecode_rate{format} {}
+tc_50_label::~tc_50_label() = default;
+tc_60_label::tc_60_label(int format) : timecode_rate{format} {}
+tc_60_label::~tc_60_label() = default;
+tc_50_duration_label::tc_50_duration_label(int format) : timecode_rate{format} {}
+tc_50_duration_label::~tc_50_duration_label() = default;
+tc_60_duration_label::tc_60_duration_label(int format) : timecode_rate{format} {}
+tc_60_duration_label::~tc_60_duration_label() = default;
+tc_12_label::tc_12_label(int format) : timecode_rate{format} {}
+tc_12_label::~tc_12_label() = default;
+tc_15_label::tc_15_label(int format) : timecode_rate{format} {}
+tc_15_label::~tc_15_label() = default;
+tc_20_label::tc_20_label(int format) : timecode_rate{format} {}
+tc_20_label::~tc_20_label() = default;
+tc_80_label::tc_80_label(int format) : timecode_rate{format} {}
+tc_80_label::~tc_80_label() = default;
+tc_90_label::tc_90_label(int format) : timecode_rate{format} {}
+tc_90_label::~tc_90_label() = default;
+tc_100_label::tc_100_label(int format) : timecode_rate{format} {}
+tc_100_label::~tc_100_label() = default;
+tc_120_label::tc_120_label(int format) : timecode_rate{format} {}
+tc_120_label::~tc_120_label() = default;
+tc_240_label::tc_240_label(int format) : timecode_rate{format} {}
+tc_240_label::~tc_240_label() = default;
+ntsc_drop_label::ntsc_drop_label(int format) : timecode_rate{format} {}
+ntsc_drop_label::~ntsc_drop_label() = default;
+// clang-format on

@@ -7,11 +7,11 @@
 #include <cstring>
 
 #include "host/tokeniser.h"
+#include "labelsbase/counts/integers.h"
 #include "labelsbase/labelcvt/label_cvt.h"
 #include "labelsbase/labelcvt/registry.h"
 #include "labelsbase/labels/label.h"
 #include "labelsbase/support/doubles.h"
-#include "labelsbase/support/integers.h"
 #include "labelsbase/support/text.h"
 
 using namespace labelsbase;

@@ -6,10 +6,10 @@
 #include <string_view>
 
 #include "host/current_project.h"
+#include "labelsbase/counts/integers.h"
 #include "labelsbase/labelcvt/label_cvt.h"
-#include "labelsbase/labelcvt/label_rows.h"
+#include "labelsbase/labelcvt/label_facts.h"
 #include "labelsbase/labelcvt/registry.h"
-#include "labelsbase/support/integers.h"
 #include "labelsbase/support/text.h"
 
 using namespace labelsbase;
@@ -195,8 +195,8 @@ double Label::get_natural_pitch(label_t type) {
   static double const pal_pitch = 1.0 / get_vid_fps(pal_label_t);
   static double const ntsc_pitch = 1.0 / get_vid_fps(ntsc_label_t);
 
-  int const samples_per_second = row_of(type).samples_per_second;
-  if (samples_per_second != 0) return 1.0 / samples_per_second;
+  auto const& facts = facts_of(type);
+  if (!facts.timecode.at_host_speed) return 1.0 / facts.samples_per_second();
   return type == pal_label_t ? pal_pitch : ntsc_pitch;
 }
 

@@ -5,9 +5,9 @@
 #include <iterator>
 
 #include "host/current_project.h"
+#include "labelsbase/counts/integers.h"
 #include "labelsbase/mposnxlate/translation_params.h"
 #include "labelsbase/samples.h"
-#include "labelsbase/support/integers.h"
 
 using namespace labelsbase;
 

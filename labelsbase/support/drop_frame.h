@@ -4,7 +4,7 @@
 // each tenth minute: a full one.
 #pragma once
 
-#include "labelsbase/support/integers.h"
+#include "labelsbase/counts/integers.h"
 
 namespace labelsbase::drop_frame {
 

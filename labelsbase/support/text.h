@@ -8,8 +8,8 @@
 #include <optional>
 #include <string_view>
 
+#include "labelsbase/counts/integers.h"
 #include "labelsbase/support/digits.h"
-#include "labelsbase/support/integers.h"
 
 namespace labelsbase {
 
@@ -22,7 +22,7 @@ namespace labelsbase {
 [[nodiscard]] constexpr bool is_blank(char c) noexcept { return c == ' ' || (c >= '\t' && c <= '\r'); }
 [[nodiscard]] constexpr char to_upper(char c) noexcept { return is_lower(c) ? static_cast<char>(c - 32) : c; }
 
-// Writes into a buffer of a fixed size: never past its end, always terminated. What does not fit is dropped.
+// Writes into a buffer of a fixed size: never past its end, always terminated. Drops what does not fit.
 class text_writer {
  public:
   template <std::size_t size>
@@ -49,15 +49,17 @@ class text_writer {
     return *this;
   }
 
-  // As "%0*d" writes a number at a width: the sign counts, and wider numbers are written whole.
-  text_writer& number(int value, int width = 0) noexcept { return signed_digits(value, width - (value < 0)); }
+  // Writes a number as "%0*d" does: at least `width` characters, the sign included.
+  text_writer& number(int value, int width = 0) noexcept {
+    return signed_digits(value, std::max(width, 1) - (value < 0));
+  }
 
-  // As "%.*d": a sign, then at least so many digits.
+  // Writes a number as "%.*d" does: a sign if it is negative, then at least `digits` digits.
   text_writer& signed_digits(int value, int digits) noexcept {
     constexpr int most = 10;
     auto const magnitude = value < 0 ? 0U - static_cast<unsigned>(value) : static_cast<unsigned>(value);
     if (value < 0) put('-');
-    for (; digits > most; --digits) put('0');
+    for (; digits > most && next_ != last_; --digits) put('0');
 
     int const size = std::clamp(digits, digits_in(magnitude), most);
     char text[most];
@@ -78,13 +80,16 @@ class text_writer {
   char* last_;
 };
 
-// Reads a text as the scanf family does, a conversion at a time.
+// Reads a text as the scanf family does, one conversion at a time.
 class text_reader {
  public:
   explicit constexpr text_reader(char const* text) noexcept : next_{or_empty(text)} {}
 
-  // As "%d", or "%2d" with a width of 2: blanks are skipped, a sign is accepted and counts in the width. Numbers
-  // too large for 64 bits stop at the largest, and the low 32 bits are kept. Nothing when no digit follows.
+  // Reads a number as "%d" does, or "%2d" with a width of 2: skips blanks, accepts a sign and counts it in the
+  // width. Numbers too large for 64 bits stop at the largest; the low 32 bits are kept. Returns nothing if no
+  // digit follows.
+  //
+  //   blank* ("+" | "-")? digit+
   constexpr std::optional<int> number(int width = std::numeric_limits<int>::max()) noexcept {
     skip_blanks();
     bool const negative = *next_ == '-';
@@ -106,13 +111,13 @@ class text_reader {
     return wrap_to_int(negative ? 0 - value : value);
   }
 
-  // As "%c": any one character; nothing at the end of the text.
+  // Reads any one character, as "%c" does. Returns nothing at the end of the text.
   constexpr std::optional<char> character() noexcept {
     if (!*next_) return {};
     return *next_++;
   }
 
-  // One given character, without skipping blanks.
+  // Reads the given character, without skipping blanks. Returns false if another one follows.
   constexpr bool literal(char c) noexcept {
     if (*next_ != c || !c) return false;
     ++next_;

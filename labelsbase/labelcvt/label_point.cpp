@@ -3,12 +3,21 @@
 #include <algorithm>
 #include <cstring>
 
+#include "labelsbase/counts/integers.h"
 #include "labelsbase/labelcvt/invalid_converter.h"
 #include "labelsbase/labelcvt/registry.h"
 #include "labelsbase/labelcvt/timecode.h"
-#include "labelsbase/support/integers.h"
 
 using namespace labelsbase;
+
+namespace {
+
+// Returns the converter as a timecode_label, or null if it is of another family.
+timecode_label* timecode_of(label_cvt const& cvt) {
+  return cvt.UserType() == User_timecode ? cvt.as_timecode() : nullptr;
+}
+
+}  // namespace
 
 struct invalid_point_maker {
   static constexpr LabelPoint make() noexcept { return LabelPoint{&invalid_converter.converter}; }
@@ -33,7 +42,7 @@ LabelPoint& LabelPoint::operator=(LabelPoint const& other) noexcept {
   return *this;
 }
 
-// The prefix is terminated whatever the other's buffer holds.
+// Terminates the prefix even if the other one lacks its terminator.
 void LabelPoint::copy_value(LabelPoint const& other) noexcept {
   auto const* const end = std::find(other.prefix, other.prefix + prefix_length, '\0');
   std::fill(std::copy(other.prefix, end, prefix), prefix + sizeof prefix, '\0');
@@ -54,7 +63,7 @@ char const* LabelPoint::get_keep_string() { return converter->get_keep_string(th
 
 int LabelPoint::get_hmsf(short& h, short& m, short& s, short& f) {
   h = m = s = f = 0;
-  auto* const timecode = as_timecode(converter);
+  auto* const timecode = timecode_of(*converter);
   return timecode ? timecode->get_abs_hmsf(sample, h, m, s, f) : 0;
 }
 
@@ -64,7 +73,7 @@ bool LabelPoint::operator==(LabelPoint const& other) const {
 }
 
 void LabelPoint::constrain_positive() {
-  auto const* const timecode = as_timecode(converter);
+  auto const* const timecode = timecode_of(*converter);
   if (timecode && sample < 0) sample = wrap_add(sample, timecode->samples_per_day());
 }
 

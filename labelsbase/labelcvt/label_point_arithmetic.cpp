@@ -2,19 +2,19 @@
 
 #include <algorithm>
 #include <cstring>
+#include <string_view>
 
+#include "labelsbase/counts/integers.h"
 #include "labelsbase/labelcvt/label_cvt.h"
 #include "labelsbase/labelcvt/label_point.h"
 #include "labelsbase/labelcvt/registry.h"
-#include "labelsbase/support/integers.h"
 #include "labelsbase/support/text.h"
 
 using namespace labelsbase;
 
 namespace {
 
-// Key numbers of one gauge, by the digits of their count: the type whose count is as the gauge has it, then 4,
-// 5, 6.
+// Key numbers of one gauge, by the digits of their count: the gauge's own, then 4, 5 and 6.
 struct count_length_row {
   label_t types[4];
 };
@@ -27,18 +27,18 @@ constexpr count_length_row count_length_rows[] = {
 };
 // clang-format on
 
-// The row of a type; null for types whose count has one length only.
+// Returns the row of a type, or null for types whose count has one length only.
 count_length_row const* count_lengths_of(label_t type) noexcept {
   auto const* const row = std::ranges::find_if(
       count_length_rows, [type](count_length_row const& r) { return std::ranges::count(r.types, type) != 0; });
   return row == std::end(count_length_rows) ? nullptr : row;
 }
 
-// Samples that one more step of the count's leading digits stands for. Deliberate: one pair of numbers for all
+// Returns the samples of one step of the count's leading digits. Deliberate: one pair of numbers for all
 // gauges, chosen by the shorter count alone.
 constexpr int leading_digit(int shorter_count) noexcept { return shorter_count == 4 ? 640'000 : 6'400'000; }
 
-// A point of the converter of two, or the invalid point where theirs differ.
+// Returns a point of the converter of both, or the invalid point if their types differ.
 LabelPoint point_of_both(LabelPoint const& a, LabelPoint const& b, int sample) {
   if (a.converter->type() == b.converter->type()) return LabelPoint{*a.converter, sample};
   LabelPoint refused = invalid_label_point;
@@ -66,12 +66,12 @@ void LabelPoint::modify_type(label_t type) {
   if (old_digits == new_digits) return;
 
   if (old_digits < new_digits) {
-    // The last characters of the prefix are the leading digits of the longer count.
-    auto const at = std::min<std::size_t>(static_cast<std::size_t>(changed->get_prefix_length()), prefix_length);
-    auto const moved =
-        std::min<std::size_t>(static_cast<std::size_t>(new_digits - old_digits), prefix_length - at);
-    char digits[prefix_length + 1] = {};
-    std::memcpy(digits, prefix + at, moved);
+    // The last characters of the prefix are the leading digits of the longer count. A prefix that ends before them
+    // adds nothing.
+    std::string_view const whole{prefix, strnlen(prefix, prefix_length)};
+    auto const at = std::min(static_cast<std::size_t>(changed->get_prefix_length()), whole.size());
+    char digits[prefix_length + 1];
+    text_writer{digits}.put(whole.substr(at, static_cast<std::size_t>(new_digits - old_digits)));
     int const leading = text_reader{digits}.number().value_or(0);
     sample = wrap_add(sample, wrap_mul(leading, leading_digit(old_digits)));
   } else {

@@ -1,5 +1,4 @@
-// Arithmetic on samples. Samples come from callers and may hold any 32-bit value, so sums and products wrap at
-// 32 bits by name.
+// Arithmetic on samples. Callers may hand in any 32-bit sample, so sums and products wrap at 32 bits by name.
 #pragma once
 
 #include <cstdint>
@@ -8,10 +7,12 @@
 
 namespace labelsbase {
 
+// Returns the low 32 bits of `value`.
 [[nodiscard]] constexpr int wrap_to_int(std::uint64_t value) noexcept {
   return static_cast<int>(static_cast<std::uint32_t>(value));
 }
 
+// Return the sum, difference or product of any two ints, wrapped at 32 bits.
 [[nodiscard]] constexpr int wrap_add(int a, int b) noexcept {
   return static_cast<int>(static_cast<unsigned>(a) + static_cast<unsigned>(b));
 }
@@ -24,13 +25,13 @@ namespace labelsbase {
   return static_cast<int>(static_cast<unsigned>(a) * static_cast<unsigned>(b));
 }
 
-// The smallest sample is its own negative.
+// Returns -value. The smallest int is its own negative.
 [[nodiscard]] constexpr int wrap_negate(int value) noexcept { return wrap_sub(0, value); }
 
-// The smallest sample is its own magnitude too, and stays negative.
+// Returns the magnitude of `value`. The smallest int is its own magnitude and stays negative.
 [[nodiscard]] constexpr int wrap_magnitude(int value) noexcept { return value < 0 ? wrap_negate(value) : value; }
 
-// A double without its fraction; the invalid sample for what does not fit an int or is not a number.
+// Returns `value` without its fraction, or invalid_sample if that does not fit an int or is not a number.
 [[nodiscard]] constexpr int to_int(double value) noexcept {
   return value > -2147483649.0 && value < 2147483648.0 ? static_cast<int>(value) : invalid_sample;
 }

@@ -1,0 +1,33 @@
+// What a converter remembers of its last conversion.
+#pragma once
+
+#include <atomic>
+
+#include "labelsbase/counts/integers.h"
+
+namespace labelsbase {
+
+// A number that conversions leave behind. Several threads may convert through one shared converter: each write and
+// each read is whole, and costs a plain move. Which thread's number remains is left open.
+class scratch_register {
+ public:
+  constexpr scratch_register() noexcept = default;
+
+  scratch_register& operator=(int value) noexcept {
+    value_.store(value, std::memory_order_relaxed);
+    return *this;
+  }
+
+  // Hosts' classes may count on from what a conversion left behind.
+  scratch_register& operator+=(int change) noexcept { return *this = wrap_add(*this, change); }
+  scratch_register& operator++() noexcept { return *this += 1; }
+
+  operator int() const noexcept {  // NOLINT(google-explicit-constructor): a register reads as its number
+    return value_.load(std::memory_order_relaxed);
+  }
+
+ private:
+  std::atomic<int> value_{0};
+};
+
+}  // namespace labelsbase
