@@ -78,6 +78,17 @@ TEST(CountLength, MovesDigitsBetweenPrefixAndCount) {
   }
 }
 
+TEST(CountLength, ReadsNothingBehindTheEndOfThePrefix) {
+  LabelPoint point{keycode_35_label_4_t, 100};
+  point.cvt()->set_prefix(&point, "ABCDEF12");
+  point.modify_count_length(6);
+  point.sample = 100;
+  point.cvt()->set_prefix(&point, "ZZZZZZ");
+  point.modify_count_length(4);
+  point.modify_count_length(5);
+  EXPECT_EQ(point.sample, 100);
+}
+
 TEST(CountLength, ChangesNothingOutsideItsFamily) {
   struct {
     label_t from, to;

@@ -1,0 +1,152 @@
+// Converters of a host's own classes, made with any argument, and what conversions leave behind in them.
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <new>
+#include <string>
+
+#include "labelsbase/labels.h"
+
+namespace {
+
+constexpr int least = std::numeric_limits<int>::min();
+constexpr int most = std::numeric_limits<int>::max();
+constexpr int odd_numbers[] = {least, least + 1, -1, 0, 1, 2, 100, 1'000'000'000, most - 4, most};
+
+void exercise(label_cvt& cvt) {
+  cvt.build_template();
+  LabelPoint point{cvt, 1};
+  cvt.set_prefix(&point, "AB1234567890+01");
+  for (int const sample : {least, -1, 0, 63, 640'001, most}) {
+    (void)std::string{cvt.get_abs_string(&point, sample)};
+    (void)std::string{cvt.get_keep_string(&point, sample)};
+    (void)cvt.normalise_sample_unit(sample);
+  }
+  for (char const* text : {"", "AB1234567890+01", "2147483647:2147483647:59:99", "-1+1"})
+    (void)cvt.get_abs_sample(text);
+}
+
+class own_prefix : public prefix_label {
+ public:
+  own_prefix(int modulus, int perfs, int length, unsigned digits) : prefix_label{modulus, perfs, length} {
+    set_count_len(digits);
+  }
+  char const* get_abs_string(LabelPoint* point, int sample) override {
+    return write_label(point, wrap_to_counts(sample), typed_frames(), '+', 3);
+  }
+  int get_abs_sample(char const* text) override {
+    return read_count(text, std::char_traits<char>::length(text), '_');
+  }
+  using variable_label::get_abs_sample;
+};
+
+TEST(HostClass, TakesAnyConstructorArgument) {
+  for (int const a : odd_numbers)
+    for (int const b : odd_numbers) {
+      for (unsigned const digits : {0U, 4U, 19U, 0x7FFF'FFFEU, 0xFFFF'FFFFU}) {
+        own_prefix prefix{a, b, a, digits};
+        exercise(prefix);
+        keycode_35 key{digits};
+        exercise(key);
+      }
+      foot_label feet{a, b, b};
+      ink_label ink{a, b};
+      timecode_label timecode{a, b};
+      for (label_cvt* cvt :
+           {static_cast<label_cvt*>(&feet), static_cast<label_cvt*>(&ink), static_cast<label_cvt*>(&timecode)})
+        exercise(*cvt);
+    }
+}
+
+// Timecode of a type that is not timecode.
+class odd_timecode : public timecode_label {
+ public:
+  explicit odd_timecode(label_t type) : timecode_label{type, Format_full} {}
+};
+
+TEST(HostClass, OfATypeWithoutFactsCountsPlainly) {
+  for (auto const type :
+       {null_label_t, foot_35_label_t, timecode_label_t, label_t{numLabelCvts}, label_t{least}}) {
+    odd_timecode timecode{type};
+    EXPECT_EQ(timecode.get_abs_sample("00:00:01.00"), 25);
+    keycode_label key{type, 4};
+    EXPECT_EQ(key.get_abs_sample("XX0000000001+01"), 68) << type;
+  }
+}
+
+// Film whose frames are twice as long.
+template <class Film>
+class long_frames : public Film {
+ public:
+  int samples_per_unit() const override { return 8; }
+};
+
+TEST(HostClass, MayOverrideTheSamplesOfAFrame) {
+  long_frames<ink_35_label> ink;
+  LabelPoint point{ink, 0};
+  EXPECT_STREQ(ink.get_abs_string(&point, 8 * 17), "XXXX0001+01");
+  EXPECT_EQ(ink.get_abs_sample("XXXX0001+01"), 8 * 17);
+  EXPECT_EQ(ink.normalise_sample_unit(-1), 10'000 * 16 * 8 - 1);
+  EXPECT_EQ(long_frames<keycode_35_label>{}.normalise_sample_unit(-1), 10'000 * 16 * 8 - 1);
+}
+
+TEST(Registers, HoldTheLastConversion) {
+  LabelPoint point{pal_label_t, 0};
+  for (auto const type : {pal_label_t, ntsc_drop_label_t, tc_240_label_t}) {
+    auto& cvt = static_cast<timecode_label&>(*get_static_label_cvt(type));
+    bool field = false;
+    auto const holds = [&](int sample) {
+      EXPECT_EQ(cvt.hmsf_to_sample(), sample) << cvt.type_str();
+      cvt.sample_to_hmsf(1, field);
+    };
+    (void)cvt.get_abs_string(&point, 90'000);
+    holds(90'000);
+    (void)cvt.get_abs_smpte_string(&point, 17'982);
+    holds(17'982);
+    holds(cvt.get_abs_sample("01:02:03:04"));
+    holds(cvt.get_abs_sample("1:2:3:4"));
+    holds(cvt.get_abs_sample_from_packed_string("010203004"));
+  }
+}
+
+TEST(Registers, OfKeyNumbersSurviveUnreadableText) {
+  auto& cvt = static_cast<keycode_label&>(*get_static_label_cvt(keycode_35_label_t));
+  for (char const* text : {"AB1234569999+", "AB1234560009+x", "AB1234560009+123", "", "AB123456-001"}) {
+    cvt.get_counts(100);
+    EXPECT_EQ(cvt.get_abs_sample(text), -100'000'000) << text;
+    EXPECT_EQ(cvt.get_perfs(), 100) << text;
+  }
+}
+
+class alignas(128) wide_label : public pal_label {
+ public:
+  using pal_label::pal_label;
+};
+
+TEST(HostClass, IsMadeInEveryFormOfNew) {
+  std::unique_ptr<label_cvt> const plain{new (std::nothrow) pal_label(15)};
+  std::unique_ptr<label_cvt> const wide{new wide_label(15)};
+  std::unique_ptr<label_cvt> const also_wide{new (std::nothrow) wide_label(15)};
+  std::unique_ptr<foot_35_label[]> const feet{new foot_35_label[3]};
+  for (auto const* cvt : {wide.get(), also_wide.get()}) EXPECT_EQ(reinterpret_cast<std::uintptr_t>(cvt) % 128, 0U);
+  EXPECT_EQ(plain->get_abs_sample("00:00:01:00") + feet[2].get_abs_sample("1+0"), 25 + 64);
+}
+
+TEST(HostClass, NegativeSamplesWithoutASignColumnAreReportedFromPlacesOfTheirOwn) {
+  LabelPoint point{pal_label_t, 0};
+  point.label_template.set("29.59.59.29");
+  std::string places[3];
+  label_t const types[] = {pal_label_t, tc_120_label_t, tc_240_label_t};
+  for (int i = 0; i < 3; ++i) {
+    testing::internal::CaptureStdout();
+    (void)get_static_label_cvt(types[i])->get_abs_string(&point, -1);
+    places[i] = testing::internal::GetCapturedStdout();
+    EXPECT_TRUE(places[i].starts_with("assertion failed abs_sample >= 0 at labelsbase/labelcvt line "));
+  }
+  EXPECT_TRUE(places[0] != places[1] && places[1] != places[2] && places[2] != places[0]);
+}
+
+}  // namespace
