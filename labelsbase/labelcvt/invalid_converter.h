@@ -5,7 +5,7 @@
 
 namespace labelsbase {
 
-// Built by the compiler and never destroyed, so it serves the static objects of host and library in any order.
+// The compiler builds it and nothing destroys it, so static objects of host and library may use it in any order.
 union invalid_converter_storage {
   dummy_label converter;
 

@@ -1,4 +1,19 @@
 // The value of a label at one position.
+//
+//   LabelPoint point{ntsc_drop_label_t, 1800};
+//   point.get_string()                                      // " 00:01:00;02"
+//   point.removePadding();
+//   point.get_string()                                      // "00:01:00;02"
+//   (point + LabelPoint{ntsc_drop_label_t, -1}).sample      // 1799
+//   (point + LabelPoint{pal_label_t, 1}) == invalid_label_point   // true: two types have no sum
+//
+//   field             holds
+//   prefix            up to 20 characters: the film prefix of key numbers and ink numbers
+//   text              up to 22 characters: the last text that was written
+//   sample            the position: frames, fields or perforations, by the type
+//   converter         the type's converter, not owned
+//   template_choice   which of the converter's two templates the point uses
+//   label_template    a copy of that template
 #pragma once
 
 #include <cstddef>
@@ -9,20 +24,20 @@
 
 class label_cvt;
 
-// A sample, the converter that gives it its text, and the buffer that the text is written into. A plain value: the
-// fields are open, since converters of the host's own read and write them.
+// A sample, the converter that writes its text, and the buffer for that text. A plain value: the fields are open, since
+// hosts' own converters read and write them.
 class LABELSBASE_API LabelPoint {
  public:
-  static constexpr std::size_t prefix_length = 20;  // characters, the terminators not counted
+  static constexpr std::size_t prefix_length = 20;  // characters, without the terminator
   static constexpr std::size_t text_length = 22;
 
   // Film prefix of key numbers and ink numbers; empty for other types.
   char prefix[prefix_length + 1] = {};
 
-  // The label's text, as of the last conversion into this point.
+  // The label's text after the last conversion into this point.
   char text[text_length + 1] = {};
 
-  // The absolute sample (frames, fields or perforations, as the type has it), or a special sample.
+  // The absolute sample, or a special sample (samples.h).
   int sample = 0;
 
   // Never null, never owned; normally one of the registry's shared converters.
@@ -32,17 +47,17 @@ class LABELSBASE_API LabelPoint {
   bool template_choice = true;
   LabelTemplate label_template;
 
-  // The invalid point: invalid converter, sample 0, no prefix, empty template.
+  // Makes the invalid point: invalid converter, sample 0, empty prefix and template.
   LabelPoint() noexcept;
 
-  // The label of a type at a sample, which wraps into the type's range. For a type without a converter of its own
-  // the point has the invalid converter. The shared converter is used, built if needed.
+  // Makes the label of a type at a sample, which wraps into the type's range. Uses the shared converter, and the invalid
+  // converter for types without labels.
   LabelPoint(label_t type, int at_sample);
 
-  // The same with a given converter, which must outlive the point.
+  // Makes the label of a converter, which must outlive the point.
   LabelPoint(label_cvt& cvt, int at_sample);
 
-  // A copy takes everything but the text buffer: that of a new point is empty, that of an old one stays as it was.
+  // Copy everything but the text: a new point's text is empty, an assigned point keeps its own.
   LabelPoint(LabelPoint const& other) noexcept;
   LabelPoint& operator=(LabelPoint const& other) noexcept;
 
@@ -53,30 +68,31 @@ class LABELSBASE_API LabelPoint {
 
   [[nodiscard]] label_cvt* cvt() const noexcept { return converter; }
 
-  // The label's text, for example "-00:00:01.00"; "???" for the invalid converter, the template's placeholder for
-  // a special sample. It lives in this point until the next conversion into it.
+  // Returns the label's text, for example "-00:00:01.00". Returns "???" for the invalid converter and the template's
+  // placeholder for a special sample. The text is valid until the next conversion into this point.
   char const* get_string();
 
-  // The label's text as keep strings hold it.
+  // Returns the label's text as keep strings hold it.
   char const* get_keep_string();
 
-  // Splits a timecode into hours, minutes, seconds and frames, and returns the frames; 0 in all for other types.
+  // Splits a timecode into hours, minutes, seconds and frames, and returns the frames. For other types all are 0.
   int get_hmsf(short& h, short& m, short& s, short& f);
 
-  // One type, one sample and, for types with a prefix, one prefix. Templates and texts are not compared.
+  // Whether both have the same type and sample and, for types with a prefix, the same prefix. Templates and texts are not
+  // compared.
   [[nodiscard]] bool operator==(LabelPoint const& other) const;
 
-  // Sum and difference of two points of one type, moved into its range, without a prefix; the invalid point for
-  // points of two types.
+  // Return the sum and the difference of two points of one type, moved into its range, without a prefix. Points of two
+  // types return the invalid point.
   [[nodiscard]] LabelPoint operator+(LabelPoint const& other) const;
   [[nodiscard]] LabelPoint operator-(LabelPoint const& other) const;
 
-  // Makes a key number one with a longer or a shorter count of the same gauge: digits move from the end of the
-  // prefix to the count, or are taken off the count. The prefix field stays as it is. Other types, and other
-  // points, change nothing.
+  // Gives a key number a longer or shorter count of the same gauge. A longer count takes its leading digits from the end
+  // of the prefix; a shorter one drops its leading digits. The prefix field stays as it is. Does nothing for any other
+  // type, of the point or asked for.
   void modify_type(label_t type);
 
-  // The same by the count's digits, 4 to 6.
+  // Does the same by the digits of the count, 4 to 6. Does nothing for any other number.
   void modify_count_length(int digits);
 
   // Moves a timecode at a negative sample up by one day; leaves every other point as it is.
@@ -92,5 +108,5 @@ class LABELSBASE_API LabelPoint {
   LABELSBASE_LOCAL void copy_value(LabelPoint const& other) noexcept;
 };
 
-// The point that refused operations give. It is there before any code of the host or of the library runs.
+// The point that refused operations return. The compiler builds it, so it is ready before any code runs.
 extern LABELSBASE_API LabelPoint invalid_label_point;

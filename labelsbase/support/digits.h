@@ -7,7 +7,7 @@
 
 namespace labelsbase {
 
-// "00" to "99", a pair an entry.
+// "00" to "99".
 inline constexpr auto digit_pairs = [] {
   std::array<char[2], 100> pairs{};
   for (std::size_t i = 0; i < 100; ++i) {
@@ -22,7 +22,7 @@ inline void put_pair(char* out, int value) noexcept {
   std::memcpy(out, digit_pairs[static_cast<unsigned>(value)], 2);
 }
 
-// Writes the last so many digits of a number.
+// Writes the last `digits` digits of a number, with leading zeros.
 inline void put_digits(char* out, unsigned value, int digits) noexcept {
   for (; digits >= 2; digits -= 2) {
     put_pair(out + digits - 2, static_cast<int>(value % 100));
@@ -31,6 +31,7 @@ inline void put_digits(char* out, unsigned value, int digits) noexcept {
   if (digits > 0) *out = static_cast<char>('0' + value % 10);
 }
 
+// Returns how many digits a number has; 1 for 0.
 [[nodiscard]] constexpr int digits_in(unsigned value) noexcept {
   int digits = 1;
   for (; value >= 10; value /= 10) ++digits;
