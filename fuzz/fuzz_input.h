@@ -1,13 +1,19 @@
-// Takes values from the fuzzer's bytes.
+// Takes values from the fuzzer's bytes, and stops it when an answer is wrong.
 #pragma once
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <string>
+#include <string_view>
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size);
+
+// How many numbers the target reads before its text.
+extern int const fuzz_numbers;
 
 class fuzz_input {
  public:
@@ -31,3 +37,10 @@ class fuzz_input {
   std::uint8_t const* data_;
   std::size_t left_;
 };
+
+// Prints the property and the text, and aborts, unless the property holds.
+inline void demand(bool holds, char const* property, std::string_view text) {
+  if (holds) return;
+  std::fprintf(stderr, "does not hold: %s, for \"%.*s\"\n", property, static_cast<int>(text.size()), text.data());
+  std::abort();
+}

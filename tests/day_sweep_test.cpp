@@ -1,17 +1,13 @@
 // Every label of the day, for every timecode type.
 
-#include <gtest/gtest.h>
-
-#include <cstring>
-
-#include "labelsbase/labels.h"
+#include "tests/testing.h"
 
 namespace {
 
 class DaySweep : public testing::TestWithParam<int> {};
 
 TEST_P(DaySweep, EveryLabelReadsBackAndTheyIncrease) {
-  LabelPoint point{static_cast<label_t>(GetParam()), 0};
+  LabelPoint point{label_t{GetParam()}, 0};
   auto& cvt = *point.cvt();
   int const day = dynamic_cast<timecode_label&>(cvt).samples_per_day();
   char before[LabelPoint::text_length + 1] = "";
@@ -24,10 +20,14 @@ TEST_P(DaySweep, EveryLabelReadsBackAndTheyIncrease) {
   EXPECT_EQ(std::strncmp(cvt.get_abs_string(&point, day), " 00:00:00", 9), 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Timecode, DaySweep,
-                         testing::Values(5, 6, 7, 8, 20, 31, 32, 42, 43, 44, 45, 46, 47, 48, 49, 50, 51),
-                         [](auto const& type) {
-                           return get_static_label_cvt(static_cast<label_t>(type.param))->type_str();
-                         });
+std::vector<int> timecode_types() {
+  std::vector<int> types;
+  for (int t = 0; t < numLabelCvts; ++t)
+    if (shared(label_t{t}).type() == t && shared(label_t{t}).UserType() == User_timecode) types.push_back(t);
+  return types;
+}
+
+INSTANTIATE_TEST_SUITE_P(Timecode, DaySweep, testing::ValuesIn(timecode_types()),
+                         [](auto const& type) { return shared(label_t{type.param}).type_str(); });
 
 }  // namespace

@@ -1,16 +1,7 @@
-#include <gtest/gtest.h>
-
-#include <array>
-#include <climits>
 #include <clocale>
-#include <cmath>
 #include <cstdlib>
-#include <cstring>
-#include <random>
-#include <string>
-#include <vector>
 
-#include "labelsbase/labels.h"
+#include "tests/testing.h"
 
 namespace {
 
@@ -37,11 +28,11 @@ TEST(KeepString, IsWrittenFieldByField) {
 // Bounded and not, with several lengths and prefixes, for every type.
 TEST(KeepString, BringsEveryTypeBack) {
   for (int t = 0; t < numLabelCvts; ++t)
-    for (int sample : {0, 7, 64 * 123 + 61, 90'000})
-      for (int length : {0, 10, 250, 100'000'000, -5})
+    for (int sample : {7, 64 * 123 + 61})
+      for (int length : {250, -5})
         for (int bounded : {0, 1})
-          for (char const* prefix : {"KJ1234560123+07", "AB120123+07", "eh_56x0000000000"}) {
-            Label label{static_cast<label_t>(t)};
+          for (char const* prefix : {"KJ1234560123+07", "eh_56x0000000000"}) {
+            Label label{label_t{t}};
             label.start.sample = sample;
             label.set_prefix(prefix);
             label.length = length;
@@ -69,16 +60,14 @@ TEST(KeepString, BringsEveryTypeBack) {
 }
 
 TEST(KeepString, IsReadByRevision) {
-  struct {
-    char const* header;
-    int revision;
-    bool read;
-  } const cases[] = {
+  // clang-format off
+  struct { char const* header; int revision; bool read; } const cases[] = {
       {"LABEL_REV:1", 1, true},  {"LABEL_REV:2", 2, true},  {"LABEL_REV:-1", -1, true},
       {"LABEL_REVX1", 1, true},  {"LABEL_REV:0", 0, false}, {"LABEL_REV:3", 3, false},
       {"LABEL_REV:", 0, false},  {"LABEL_REV", 0, false},   {"LABEL_RE:1", 1, false},
       {"LABEL_REV:x", 0, false}, {"label_rev:1", 1, false}, {"LABEL_REV:4294967297", 1, true},
   };
+  // clang-format on
   for (auto const& c : cases) {
     Label const label{(std::string{c.header} + " pal_label 01:00:00.00 250 0.04 1").c_str()};
     EXPECT_EQ(label.revision, c.revision) << c.header;
@@ -89,13 +78,10 @@ TEST(KeepString, IsReadByRevision) {
 }
 
 TEST(KeepString, MayEndAfterAnyField) {
-  struct {
-    char const* text;
-    int type, sample, length, bounded;
-    double pitch;
-  } const cases[] = {
-      {"LABEL_REV:1", 3, 0, 0, 0, 0.0},
-      {"LABEL_REV:1 pal_label", 5, 0, 0, 0, 0.0},
+  // clang-format off
+  struct { char const* text; int type, sample, length, bounded; double pitch; } const cases[] = {
+      {"LABEL_REV:1", 3, 0, 0, 0, 0.0}, {"LABEL_REV:1 pal_label", 5, 0, 0, 0, 0.0}, {"", 3, 0, 0, 0, 0.0},
+      {"   ", 3, 0, 0, 0, 0.0},         {nullptr, 3, 0, 0, 0, 0.0},
       {"LABEL_REV:1 pal_label 01:00:00.00", 5, 90'000, 0, 0, 0.0},
       {"LABEL_REV:1 pal_label 01:00:00.00 250", 5, 90'000, 250, 0, 0.0},
       {"LABEL_REV:1  pal_label   01:00:00.00  250 0.04", 5, 90'000, 250, 0, 0.04},
@@ -104,11 +90,10 @@ TEST(KeepString, MayEndAfterAnyField) {
       {"LABEL_REV:1 pal_label nothing x y z", 5, -100'000'000, 0, 0, 0.0},
       {"LABEL_REV:1 pal_label 01:00:00.00 250 -1e400 1", 5, 90'000, 250, 1, -HUGE_VAL},
       {"LABEL_REV:1 pal_label 01:00:00.00 250 +0x1p-1 1", 5, 90'000, 250, 1, 0.5},
+      {"LABEL_REV:1 pal_label 01:00:00.00 250 --1 1", 5, 90'000, 250, 1, 0.0},
       {"LABEL_REV:1 keycode_35_label KJ1234560001+00 1073741825 1e-400 1", 10, 64, 4, 1, 0.0},
-      {"", 3, 0, 0, 0, 0.0},
-      {"   ", 3, 0, 0, 0, 0.0},
-      {nullptr, 3, 0, 0, 0, 0.0},
   };
+  // clang-format on
   for (auto const& c : cases) {
     Label const label{c.text};
     SCOPED_TRACE(c.text ? c.text : "null");
@@ -143,41 +128,6 @@ TEST(KeepString, IsCutToItsBuffer) {
   EXPECT_EQ(std::strlen(buffer.data()), Label::keep_string_size - 1);
   EXPECT_EQ(buffer[Label::keep_string_size], '!');
   EXPECT_GT(std::strlen(label.make_keep_string(nullptr)), 320U);
-}
-
-TEST(KeepString, TakesAnyDamage) {
-  std::vector<std::string> originals;
-  for (int t = 0; t < numLabelCvts; ++t) {
-    Label label{static_cast<label_t>(t)};
-    label.set_prefix("KJ1234560123+07");
-    originals.push_back(kept(label) + " MediumRollId 15,2 ");
-  }
-  std::mt19937 random{100'000};
-  for (int i = 0; i < 100'000; ++i) {
-    std::string text = originals[random() % originals.size()];
-    for (auto damage = 1 + random() % 4; damage > 0 && !text.empty(); --damage) {
-      auto const at = random() % text.size();
-      auto const size = random() % 20;
-      switch (random() % 4) {
-        case 0:
-          text[at] = static_cast<char>(random());
-          break;
-        case 1:
-          text.erase(at, size);
-          break;
-        case 2:
-          text.insert(at, text.substr(random() % text.size(), size));
-          break;
-        default:
-          text.resize(at);
-      }
-    }
-    Label label{text.c_str()};
-    (void)label.make_keep_string(nullptr);
-    (void)label.posn_to_sample(static_cast<double>(random()));
-    ASSERT_LE(std::strlen(label.get_string(static_cast<int>(random()))), LabelPoint::text_length);
-    (void)label.contains(Label{originals[random() % originals.size()].c_str()});
-  }
 }
 
 }  // namespace

@@ -1,10 +1,4 @@
-#include <gtest/gtest.h>
-
-#include <climits>
-#include <cstring>
-#include <string>
-
-#include "labelsbase/labels.h"
+#include "tests/testing.h"
 
 namespace {
 
@@ -15,18 +9,15 @@ LabelPoint key(label_t type, int sample, char const* prefix) {
 }
 
 TEST(PointArithmetic, WrapsByTheType) {
-  struct {
-    label_t type;
-    int a, b, sum, difference;
-  } const cases[] = {
-      {pal_label_t, 2'159'999, 2, 1, 2'159'997},
-      {pal_label_t, 1, 2, 3, 2'159'999},
+  // clang-format off
+  struct { label_t type; int a, b, sum, difference; } const cases[] = {
+      {pal_label_t, 2'159'999, 2, 1, 2'159'997}, {pal_label_t, 1, 2, 3, 2'159'999},
       {pal_label_t, 2'159'999, 1, 2'160'000, 2'159'998},  // a whole day stays
-      {keycode_35_label_t, 639'999, 1, 0, 639'998},
-      {keycode_353_label_t, 0, 1, 1, 659'999},
+      {keycode_35_label_t, 639'999, 1, 0, 639'998}, {keycode_353_label_t, 0, 1, 1, 659'999},
       {foot_35_label_t, 4, 8, 12, -4},  // feet do not wrap
       {film_frames_label_t, 5, 7, 12, -2},
   };
+  // clang-format on
   for (auto const& c : cases) {
     LabelPoint const a = key(c.type, c.a, "KJ123456"), b{c.type, c.b};
     LabelPoint const sum = a + b;
@@ -51,13 +42,8 @@ TEST(PointArithmetic, OfTwoTypesIsTheInvalidPoint) {
 }
 
 TEST(CountLength, MovesDigitsBetweenPrefixAndCount) {
-  struct {
-    label_t from;
-    int sample;
-    char const* prefix;
-    label_t to;
-    int result;
-  } const cases[] = {
+  // clang-format off
+  struct { label_t from; int sample; char const* prefix; label_t to; int result; } const cases[] = {
       {keycode_35_label_4_t, 100, "KJ123412", keycode_35_label_6_t, 100 + 12 * 640'000},
       {keycode_35_label_4_t, 100, "KJ123412", keycode_35_label_5_t, 100 + 2 * 640'000},
       {keycode_35_label_5_t, 100, "KJ12341", keycode_35_label_6_t, 100 + 1 * 6'400'000},
@@ -67,6 +53,7 @@ TEST(CountLength, MovesDigitsBetweenPrefixAndCount) {
       {keycode_35_label_6_t, 7'680'100, "KJ1234", keycode_35_label_5_t, 1'280'100},
       {keycode_35_label_5_t, -640'001, "KJ1234", keycode_35_label_t, -1},
   };
+  // clang-format on
   for (auto const& c : cases) {
     LabelPoint point = key(c.from, 0, c.prefix);
     point.sample = c.sample;
@@ -90,18 +77,15 @@ TEST(CountLength, ReadsNothingBehindTheEndOfThePrefix) {
 }
 
 TEST(CountLength, ChangesNothingOutsideItsFamily) {
-  struct {
-    label_t from, to;
-  } const cases[] = {
+  // clang-format off
+  struct { label_t from, to; } const cases[] = {
       {keycode_35_label_4_t, keycode_35_label_t},  // one length
-      {keycode_35_label_t, keycode_16_label_6_t},
-      {keycode_352_label_t, keycode_35_label_6_t},
-      {pal_label_t, keycode_35_label_6_t},
-      {ink_35_label_t, keycode_35_label_6_t},
-      {keycode_35_label_t, pal_label_t},
-      {keycode_35_label_t, static_cast<label_t>(-7)},
+      {keycode_35_label_t, keycode_16_label_6_t},          {keycode_352_label_t, keycode_35_label_6_t},
+      {pal_label_t, keycode_35_label_6_t},                 {ink_35_label_t, keycode_35_label_6_t},
+      {keycode_35_label_t, pal_label_t},                   {keycode_35_label_t, static_cast<label_t>(-7)},
       {keycode_35_label_t, static_cast<label_t>(INT_MAX)},
   };
+  // clang-format on
   for (auto const& c : cases) {
     LabelPoint point = key(c.from, 100, "KJ123456");
     point.label_template.set("kept");
@@ -113,20 +97,14 @@ TEST(CountLength, ChangesNothingOutsideItsFamily) {
 }
 
 TEST(CountLength, IsSetByItsDigits) {
-  struct {
-    label_t from;
-    int digits;
-    label_t to;
-  } const cases[] = {
-      {keycode_16_label_t, 5, keycode_16_label_5_t},
-      {keycode_16_label_t, 4, keycode_16_label_t},
-      {keycode_353_label_6_t, 4, keycode_353_label_4_t},
-      {keycode_35_label_t, 7, keycode_35_label_t},
-      {keycode_35_label_t, 3, keycode_35_label_t},
-      {keycode_35_label_t, INT_MIN, keycode_35_label_t},
-      {pal_label_t, 5, pal_label_t},
-      {keycode_358_label_t, 6, keycode_358_label_t},
+  // clang-format off
+  struct { label_t from; int digits; label_t to; } const cases[] = {
+      {keycode_16_label_t, 5, keycode_16_label_5_t},     {keycode_16_label_t, 4, keycode_16_label_t},
+      {keycode_353_label_6_t, 4, keycode_353_label_4_t}, {keycode_35_label_t, 7, keycode_35_label_t},
+      {keycode_35_label_t, 3, keycode_35_label_t},       {keycode_35_label_t, INT_MIN, keycode_35_label_t},
+      {pal_label_t, 5, pal_label_t},                     {keycode_358_label_t, 6, keycode_358_label_t},
   };
+  // clang-format on
   for (auto const& c : cases) {
     LabelPoint point{c.from, 0};
     point.template_choice = false;

@@ -1,10 +1,4 @@
-#include <gtest/gtest.h>
-
-#include <climits>
-#include <cstring>
-#include <string>
-
-#include "labelsbase/labels.h"
+#include "tests/testing.h"
 
 namespace {
 
@@ -91,17 +85,13 @@ TEST(LabelPoint, SplitsTimecodeOnly) {
 }
 
 TEST(LabelPoint, MovesNegativeTimecodeUpADay) {
-  struct {
-    label_t type;
-    int sample, constrained;
-  } const cases[] = {
-      {ntsc_drop_label_t, -1, 2'589'407},
-      {pal_label_t, -1, 2'159'999},
-      {pal_label_t, 0, 0},
-      {null_label_t, -1, -1},
-      {pal_label_t, -4'000'000, -1'840'000},
-      {pal_label_t, INT_MIN, INT_MIN + 2'160'000},
+  // clang-format off
+  struct { label_t type; int sample, constrained; } const cases[] = {
+      {ntsc_drop_label_t, -1, 2'589'407},    {pal_label_t, -1, 2'159'999},
+      {pal_label_t, 0, 0},                   {null_label_t, -1, -1},
+      {pal_label_t, -4'000'000, -1'840'000}, {pal_label_t, INT_MIN, INT_MIN + 2'160'000},
   };
+  // clang-format on
   for (auto const& c : cases) {
     LabelPoint point{c.type, 0};
     point.sample = c.sample;

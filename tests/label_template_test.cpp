@@ -1,9 +1,4 @@
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <string>
-
-#include "labelsbase/labelcvt.h"
+#include "tests/testing.h"
 
 namespace {
 
@@ -66,25 +61,16 @@ TEST(LabelTemplate, EveryConverterTakesTheLabelsThatItWrites) {
 }
 
 TEST(LabelTemplate, FillsItsFieldsForLabelsThatCannotBeShown) {
-  struct {
-    char const* shape;
-    int sample;
-    char const* text;
-  } const cases[] = {
-      {"-29.59.59.29", -100'000'000, "???.??.??.??"},
-      {"-29.59.59.29", 100'000'001, ">>>.>>.>>.>>"},
-      {"-29.59.59.29", 100'000'002, "<<<.<<.<<.<<"},
-      {"-29.59.59.29", 0, "???.??.??.??"},
-      {"-29.59.59.29", 42, "???.??.??.??"},
-      {"????????9999+19", 0, "???????????????"},
-      {"????????9999+19", 100'000'001, ">>>>>>>>>>>>>>>"},
-      {"~~~~9999+29.3", 0, "~~~~???????.?"},
-      {"#: zZ9/", 0,
-       "#: ??"
-       "?/"},
-      {"", 100'000'001, ""},
+  // clang-format off
+  struct { char const* shape; int sample; char const* text; } const cases[] = {
+      {"-29.59.59.29", -100'000'000, "???.??.??.??"},      {"-29.59.59.29", 100'000'001, ">>>.>>.>>.>>"},
+      {"-29.59.59.29", 100'000'002, "<<<.<<.<<.<<"},       {"-29.59.59.29", 0, "???.??.??.??"},
+      {"-29.59.59.29", 42, "???.??.??.??"},                {"????????9999+19", 0, "???????????????"},
+      {"????????9999+19", 100'000'001, ">>>>>>>>>>>>>>>"}, {"~~~~9999+29.3", 0, "~~~~???????.?"},
+      {"#: zZ9/", 0, "#: ??" "?/"},                        {"", 100'000'001, ""},
       {"\xE9", 0, "\xE9"},
   };
+  // clang-format on
   for (auto const& c : cases) EXPECT_STREQ(LabelTemplate{c.shape}.getInvalidString(c.sample), c.text) << c.shape;
 }
 

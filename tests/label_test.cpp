@@ -1,17 +1,8 @@
-#include <gtest/gtest.h>
-
-#include <climits>
-#include <cmath>
-#include <cstring>
-#include <limits>
-#include <random>
-
-#include "labelsbase/labels.h"
-#include "refhost/refhost.h"
+#include "tests/testing.h"
 
 namespace {
 
-constexpr int invalid = -100'000'000, past_end = 100'000'001, before_start = 100'000'002;
+constexpr int past_end = 100'000'001, before_start = 100'000'002;
 
 Label range(label_t type, int start, int length) {
   Label label{type};
@@ -108,22 +99,15 @@ TEST(Label, AnswersForOffsetsAndSamples) {
 TEST(Label, MapsSecondsToSamples) {
   Label perfs = range(keycode_35_label_t, 0, 1000);
   perfs.pitch = 1.0 / 24;  // a slow machine: 24 perforations a second
-  struct {
-    double posn;
-    int of_frame, exact;
-  } const cases[] = {
-      {1.0, 24, 24},
-      {0.99, 20, 23},
-      {1.0 - 1.0 / 24 / 300, 24, 23},
-      {1.0 - 1.0 / 24 / 600, 24, 24},
-      {-0.01, -4, -1},
-      {0.0, 0, 0},
-      {1e99, invalid, invalid},
-      {1e12, invalid, invalid},
+  // clang-format off
+  struct { double posn; int of_frame, exact; } const cases[] = {
+      {1.0, 24, 24},              {0.99, 20, 23}, {1.0 - 1.0 / 24 / 300, 24, 23}, {1.0 - 1.0 / 24 / 600, 24, 24},
+      {-0.01, -4, -1},            {0.0, 0, 0},    {1e99, invalid, invalid},       {1e12, invalid, invalid},
       {-1e300, invalid, invalid},
       {std::numeric_limits<double>::quiet_NaN(), invalid, invalid},
       {std::numeric_limits<double>::infinity(), invalid, invalid},
   };
+  // clang-format on
   for (auto const& c : cases) {
     EXPECT_EQ(perfs.posn_to_sample(c.posn), c.of_frame) << c.posn;
     EXPECT_EQ(perfs.abs_posn_to_sample(c.posn), c.exact) << c.posn;
@@ -158,16 +142,15 @@ TEST(Label, ContainsLabelsOfItsRollAndRange) {
     return label;
   };
   Label const outer = film("KJ1234560000+00", 100, 100, 1);
-  struct {
-    Label inner;
-    bool contained;
-  } const cases[] = {
+  // clang-format off
+  struct { Label inner; bool contained; } const cases[] = {
       {film("kj1234560000+00", 100, 100, 1), true},      {film("KJ1234560000+00", 150, 50, 1), true},
       {film("KJ1234560000+00", 150, 51, 1), false},      {film("KJ1234560000+00", 99, 1, 1), false},
       {film("KJ1234570000+00", 150, 10, 1), false},      {film("KJ1234560000+00", 150, 9'999, 0), true},
       {film("KJ1234560000+00", 201, 0, 0), false},       {film("KJ1234560000+00", 150, -50, 1), true},
       {film("KJ1234560000+00", 150, INT_MAX, 1), false},
   };
+  // clang-format on
   Label const open = film("KJ1234560000+00", 100, 100, 0);
   for (auto const& c : cases) {
     EXPECT_EQ(outer.contains(c.inner), c.contained) << c.inner.get_start() << " " << c.inner.length;

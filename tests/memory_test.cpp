@@ -1,13 +1,8 @@
 // Whose memory is whose.
 
-#include <gtest/gtest.h>
-
-#include <memory>
 #include <new>
-#include <string>
 
-#include "labelsbase/labels.h"
-#include "refhost/refhost.h"
+#include "tests/testing.h"
 
 // The address sanitizer's allocator answers null too, as any allocator may.
 extern "C" char const* __asan_default_options();
@@ -36,6 +31,11 @@ TEST(Memory, OfTheProgramStaysItsOwn) {
 TEST(Memory, ThatTheHostDoesNotHaveIsBadAlloc) {
   auto const more_than_there_is = static_cast<std::size_t>(-1) / 2;
   EXPECT_THROW((void)label_cvt::operator new(more_than_there_is), std::bad_alloc);
+  static bool asked;
+  auto const before = std::set_new_handler([] { asked = true, std::set_new_handler(nullptr); });
+  EXPECT_THROW((void)label_cvt::operator new(more_than_there_is), std::bad_alloc);
+  std::set_new_handler(before);
+  EXPECT_TRUE(asked) << "the program's new-handler may find some memory";
   label_cvt::operator delete(nullptr);
 }
 

@@ -1,10 +1,6 @@
-#include <gtest/gtest.h>
-
 #include <sstream>
-#include <string>
-#include <vector>
 
-#include "refhost/refhost.h"
+#include "tests/testing.h"
 
 namespace {
 
@@ -63,11 +59,8 @@ TEST(SettingsFile, ReportsEveryWrongLineAndChangesNothing) {
       std::string(1024, 'x') +
       "\n"
       "film-speed =");
-  struct {
-    int line;
-    char const* value;
-    char const* expected;
-  } const cases[] = {
+  // clang-format off
+  struct { int line; char const *value, *expected; } const cases[] = {
       {2, "drop-frame: 'maybe'", "expected yes, no, true, false, 1 or 0"},
       {4, "'speed' has no '='", "expected key = value"},
       {5, "unknown setting 'frame-rate'", "expected project-rate, drop-frame,"},
@@ -75,6 +68,7 @@ TEST(SettingsFile, ReportsEveryWrongLineAndChangesNothing) {
       {8, "config.long: 'xxx", "expected at most 1023 characters"},
       {9, "film-speed: ''", "expected a frame rate (24, 23.976,"},
   };
+  // clang-format on
   ASSERT_EQ(errors.size(), std::size(cases));
   for (std::size_t i = 0; i < errors.size(); ++i) {
     EXPECT_EQ(errors[i].line, cases[i].line);
@@ -94,22 +88,23 @@ TEST(SettingsFile, ReportsAnUnreadableStream) {
 
 TEST(SetOption, ReadsRatesAsPeopleWriteThem) {
   constexpr int refused = -1;
-  struct {
-    char const* text;
-    int code;
-  } const cases[] = {
-      // clang-format off
-      {"24", 1}, {"24.0", 1}, {"24.000", 1}, {"23.976", 2}, {"23.98", 2}, {"25.00", 3},
-      {"30", 4}, {"29.97", 5}, {"29.970", 5}, {"29.970029970029973", 5}, {"48", 6}, {"47.952", 7},
-      {"47.95", 7}, {"59.94", 10}, {"12.0", 35}, {"11.988", 36}, {"12.5", 37}, {"25/2", 37},
-      {"14.985", 39}, {"120.", 44}, {"119.88", 45}, {"240.00", 46}, {"239.76", 47}, {"24000/1001", 2},
-      {"48000/2002", 2}, {"24/1", 1}, {"code:5", 5}, {"CODE:-7", -7}, {"code:0", 0},
-      {"", refused}, {"23", refused}, {"13", refused}, {"24.003", refused}, {"23.9", refused},
-      {"0", refused}, {"-24", refused}, {"nan", refused}, {"2.4e1", refused}, {"24fps", refused},
-      {".", refused}, {"24 ", refused}, {"0/0", refused}, {"24/0", refused}, {"24/", refused},
-      {"-24/-1", refused}, {"code:", refused}, {"code:99999999999", refused}, {"project", refused}, {"1..5", refused},
-      // clang-format on
+  // clang-format off
+  struct { char const* text; int code; } const cases[] = {
+      {"24", 1},           {"24.0", 1},               {"24.000", 1},                 {"23.976", 2},
+      {"23.98", 2},        {"25.00", 3},              {"30", 4},                     {"29.97", 5},
+      {"29.970", 5},       {"29.970029970029973", 5}, {"48", 6},                     {"47.952", 7},
+      {"47.95", 7},        {"59.94", 10},             {"12.0", 35},                  {"11.988", 36},
+      {"12.5", 37},        {"25/2", 37},              {"14.985", 39},                {"120.", 44},
+      {"119.88", 45},      {"240.00", 46},            {"239.76", 47},                {"24000/1001", 2},
+      {"48000/2002", 2},   {"24/1", 1},               {"code:5", 5},                 {"CODE:-7", -7},
+      {"code:0", 0},       {"", refused},             {"23", refused},               {"13", refused},
+      {"24.003", refused}, {"23.9", refused},         {"0", refused},                {"-24", refused},
+      {"nan", refused},    {"2.4e1", refused},        {"24fps", refused},            {".", refused},
+      {"24 ", refused},    {"0/0", refused},          {"24/0", refused},             {"24/", refused},
+      {"-24/-1", refused}, {"code:", refused},        {"code:99999999999", refused}, {"project", refused},
+      {"1..5", refused},
   };
+  // clang-format on
   for (auto const& c : cases) {
     refhost::project_guard const project{{.frame_rate = static_cast<Kiv::FrameRate>(refused)}};
     auto const error = refhost::set_option("project-rate", c.text);

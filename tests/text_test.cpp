@@ -1,17 +1,8 @@
 // Reading and writing of text, held against the C library.
 
 #include "labelsbase/support/text.h"
-
-#include <gtest/gtest.h>
-
-#include <climits>
-#include <cmath>
-#include <cstdio>
-#include <limits>
-#include <random>
-#include <string>
-
 #include "labelsbase/counts/reciprocal.h"
+#include "tests/testing.h"
 
 namespace {
 
@@ -47,14 +38,13 @@ TEST(TextReader, ReadsNumbersAsScanfDoes) {
 }
 
 TEST(TextReader, KeepsTheLowBitsOfSaturatedNumbers) {
-  struct {
-    char const* text;
-    int value;
-  } const cases[] = {
+  // clang-format off
+  struct { char const* text; int value; } const cases[] = {
       {"2147483648", INT_MIN},         {"4294967296", 0},           {"9223372036854775807", -1},
       {"9223372036854775808", -1},     {"-9223372036854775808", 0}, {"-99999999999999999999999", 0},
       {"99999999999999999999999", -1}, {"-2147483649", INT_MAX},
   };
+  // clang-format on
   for (auto const& c : cases) EXPECT_EQ(text_reader{c.text}.number(), c.value) << c.text;
   EXPECT_EQ(text_reader{nullptr}.number(), std::nullopt);
 }
@@ -88,19 +78,14 @@ TEST(Integers, WrapAt32Bits) {
 }
 
 TEST(Integers, DoublesThatDoNotFitAreTheInvalidSample) {
-  struct {
-    double value;
-    int sample;
-  } const cases[] = {
-      {2147483647.9, INT_MAX},
-      {2147483648.0, -100'000'000},
-      {-2147483648.9, INT_MIN},
-      {-2147483649.0, -100'000'000},
-      {1e99, -100'000'000},
+  // clang-format off
+  struct { double value; int sample; } const cases[] = {
+      {2147483647.9, INT_MAX},       {2147483648.0, -100'000'000}, {-2147483648.9, INT_MIN},
+      {-2147483649.0, -100'000'000}, {1e99, -100'000'000},         {-0.9, 0},
       {std::numeric_limits<double>::quiet_NaN(), -100'000'000},
       {-std::numeric_limits<double>::infinity(), -100'000'000},
-      {-0.9, 0},
   };
+  // clang-format on
   for (auto const& c : cases) EXPECT_EQ(labelsbase::to_int(c.value), c.sample) << c.value;
 }
 

@@ -1,40 +1,26 @@
-#include "labelsbase/uiflabels.h"
-
-#include <gtest/gtest.h>
-
 #include <new>
-#include <string>
+
+#include "labelsbase/uiflabels.h"
+#include "tests/testing.h"
 
 namespace {
 
 VagueUIFLabel choice(int value) { return static_cast<VagueUIFLabel>(value); }
 
 TEST(LabelChoices, AreFoundByNumber) {
-  struct {
-    int label;
-    char const* config;
-    ResId text;
-    int family, medium, generation;
-  } const cases[] = {
-      {0, "Any_Label", 12833, 1, 1, 1},
-      {2, "Primary_Timecode", 12842, 3, 1, 2},
-      {4, "1st_Gen_Video_Timecode", 12843, 3, 3, 3},
-      {6, "KeyKode", 12841, 4, 2, 1},
-      {8, "Ink_code", 12839, 6, 10, 1},
-      {9, "24P_Timecode", 12832, 3, 15, 1},
-      {11, "reelid1", 12845, 2, 4, 3},
-      {13, "lab_reel", 12847, 2, 10, 1},
-      {14, "comp_reel", 12849, 2, 11, 1},
-      {24, "Edit_24PTimecode", 11755, 3, 14, 1},
-      {27, "Edit_ElapDur", 11756, 3, 8, 1},
-      {28, "scene", 12854, 2, 0, 0},
-      {31, "24f_Generation", 12831, 3, 15, 1},
-      {32, "name", 13081, 2, 0, 0},
-      {34, "cd", 13876, 2, 0, 0},
-      {-1, "", 12840, 0, 0, 0},
-      {35, "", 12840, 0, 0, 0},
-      {INT32_MIN, "", 12840, 0, 0, 0},
+  // clang-format off
+  struct { int label; char const* config; ResId text; int family, medium, generation; } const cases[] = {
+      {0, "Any_Label", 12833, 1, 1, 1},              {2, "Primary_Timecode", 12842, 3, 1, 2},
+      {4, "1st_Gen_Video_Timecode", 12843, 3, 3, 3}, {6, "KeyKode", 12841, 4, 2, 1},
+      {8, "Ink_code", 12839, 6, 10, 1},              {9, "24P_Timecode", 12832, 3, 15, 1},
+      {11, "reelid1", 12845, 2, 4, 3},               {13, "lab_reel", 12847, 2, 10, 1},
+      {14, "comp_reel", 12849, 2, 11, 1},            {24, "Edit_24PTimecode", 11755, 3, 14, 1},
+      {27, "Edit_ElapDur", 11756, 3, 8, 1},          {28, "scene", 12854, 2, 0, 0},
+      {31, "24f_Generation", 12831, 3, 15, 1},       {32, "name", 13081, 2, 0, 0},
+      {34, "cd", 13876, 2, 0, 0},                    {-1, "", 12840, 0, 0, 0},
+      {35, "", 12840, 0, 0, 0},                      {INT32_MIN, "", 12840, 0, 0, 0},
   };
+  // clang-format on
   for (auto const& c : cases) {
     EXPECT_STREQ(uifLabel_to_config_str(choice(c.label)), c.config) << c.label;
     EXPECT_EQ(uifLabelText(choice(c.label)), c.text) << c.label;

@@ -1,0 +1,133 @@
+// Runs a fuzz target without the fuzzer: on the files named as arguments, or on inputs drawn at random, which are
+// the same in every run.
+
+#include <array>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "fuzz/fuzz_input.h"
+
+namespace {
+
+constexpr int drawn_inputs = 20'000;
+
+std::string current_input;
+
+// Keeps the input that failed, to be replayed alone.
+void keep_input(int) {
+  std::ofstream{"replay_failed_input", std::ios::binary} << current_input;
+  std::fputs("the input is in replay_failed_input\n", stderr);
+}
+
+void run(std::string const& input) {
+  current_input = input;
+  // A block of exactly this size lets the sanitizers see a read behind it.
+  std::vector<std::uint8_t> const bytes(input.begin(), input.end());
+  LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
+}
+
+// Texts that readers accept. They are damaged before use.
+constexpr std::array texts{
+    " 01:00:00.00",
+    "-00:00:01;02",
+    "23:59:59+23",
+    "00:00:00.119",
+    "01000000",
+    "00021612",
+    "KJ1234560123+07",
+    "EH123456 9999&19",
+    "KJ1234560001+21.3",
+    "AB121234+05",
+    " 0064+01",
+    "-0002+21.3",
+    "000024",
+    "LABEL_REV:1 pal_label  01:00:00.00 250 0.0400000000 1 MediumRollId 15,2",
+    "LABEL_REV:2 keycode_35_label KJ1234560123+07 2 0.0416666667 -2",
+    "REV: 1 MediumRollId: 28,1 reelid: A001",
+    "-1.5e-308",
+    "0x1.8p+1023",
+};
+
+class drawing {
+ public:
+  std::string input() {
+    std::string bytes;
+    for (int i = 0; i < fuzz_numbers; ++i) {
+      auto const number = this->number();
+      bytes.append(reinterpret_cast<char const*>(&number), sizeof number);
+    }
+    return bytes + text();
+  }
+
+ private:
+  std::uint32_t below(std::size_t limit) { return static_cast<std::uint32_t>(random_() % limit); }
+
+  std::uint32_t number() {
+    constexpr std::uint32_t corners[] = {0,  1,      3,          4,          16,         24,        25,
+                                         64, 90'000, 0x7FFFFFFE, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
+    switch (below(4)) {
+      case 0:
+        return corners[below(std::size(corners))];
+      case 1:
+        return below(70);
+      case 2:
+        return below(6'000'000) - 3'000'000;
+      default:
+        return static_cast<std::uint32_t>(random_());
+    }
+  }
+
+  char character() {
+    constexpr std::string_view likely = "0123456789+&.:;,-_ AKXREV";
+    return below(8) ? likely[below(likely.size())] : static_cast<char>(random_());
+  }
+
+  std::string text() {
+    std::string text;
+    if (below(3) == 0)
+      for (auto length = below(41); length > 0; --length) text += character();
+    else
+      text = texts[below(texts.size())];
+    for (auto damage = below(4); damage > 0 && !text.empty(); --damage) {
+      auto const at = below(text.size());
+      switch (below(4)) {
+        case 0:
+          text[at] = character();
+          break;
+        case 1:
+          text.erase(at, below(12));
+          break;
+        case 2:
+          text.insert(at, text.substr(below(text.size()), below(20)));
+          break;
+        default:
+          text.insert(at, 1, character());
+      }
+    }
+    return text;
+  }
+
+  std::mt19937 random_{20'000};
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  std::signal(SIGABRT, keep_input);
+  for (int i = 1; i < argc; ++i) {
+    std::ifstream file{argv[i], std::ios::binary};
+    if (!file) return std::fprintf(stderr, "cannot read %s\n", argv[i]), EXIT_FAILURE;
+    run({std::istreambuf_iterator<char>{file}, {}});
+  }
+  if (argc > 1) return EXIT_SUCCESS;
+
+  drawing drawn;
+  for (int i = 0; i < drawn_inputs; ++i) run(drawn.input());
+  return EXIT_SUCCESS;
+}
