@@ -1,16 +1,19 @@
 #!/usr/bin/env python3
 """Runs the examples of the documents, so that they stay true.
 
-usage: check_examples.py BUILD_DIRECTORY DOCUMENT...
+usage: check_examples.py BUILD_DIRECTORY DOCUMENT_OR_HEADER...
 
 In a document,
 
-- a line `EXPRESSION;  // VALUE` in a block of C++ must have that value; a remark may follow behind ": ". The blocks of
-  a document are one program. Any other line is compiled as it is.
-- a block of C++ behind `<!-- file: NAME -->` is a file; the files of a document are one program. It is linked to
-  refhost unless it defines a host of its own. Lines `// prints TEXT` say what it prints.
+- a line `EXPRESSION;  // VALUE` in a block of C++ must have that value; a remark may follow after ": ". The blocks of a
+  document are one program. Any other line is compiled as it is.
+- a block of C++ after `<!-- file: NAME -->` is a file; the files of a document are one program. It is linked to refhost
+  unless it defines a host of its own. Lines `// prints TEXT` say what it prints.
 - a line `$ COMMAND` in a block of console is run in a shell that finds the tool `labels`; the lines that follow it are
   its output, standard error included.
+
+In a header, the comments before the first include have examples. A line `EXPRESSION   // VALUE` must have that value; a
+remark may follow after ": " or ", ". A line that ends in ";" is compiled as it is.
 """
 
 import os
@@ -40,15 +43,15 @@ void check(int line, Actual const& actual, Expected const& expected) {
     same = actual == static_cast<Actual>(expected);
   if (same) return;
   failures = 1;
-  std::cerr << DOCUMENT << ":" << line << ": is " << actual << ", not " << expected << "\\n";
+  std::cerr << DOCUMENT << ":" << line << ": is ";
+  if constexpr (requires { std::cerr << actual << expected; }) std::cerr << actual << ", not " << expected << "\\n";
+  else std::cerr << "another value\\n";
 }
 int main() {
 %s
   return failures;
 }
 """
-
-EXAMPLE = re.compile(r'^(\S.*);\s+// ("[^"]*"|[^":]+)(?:: .*)?$')
 
 
 def blocks(document):
@@ -71,28 +74,51 @@ def build(build_dir, program, sources, *libraries):
     library_dir = build_dir / "labelsbase"
     subprocess.run(
         [COMPILER, "-std=c++20", "-Wall", "-Wextra", "-Wno-trigraphs", "-Wno-unused-value", "-I", ROOT, *sources]
-        + ["-o", program, "-L", library_dir, "-llabelsbase", *libraries, f"-Wl,-rpath,{library_dir}"],
+        + ["-o", program, build_dir / "labelcheck/liblabelcheck.a", "-L", library_dir, "-llabelsbase", *libraries]
+        + [f"-Wl,-rpath,{library_dir}"],
         check=True,
     )
 
 
-def check_expressions(document, build_dir, folder, found):
+def run_statements(name, build_dir, folder, statements):
+    """Runs statements: (line number, code) or (line number, expression, value)."""
     includes, body = [], []
-    for _, _, first, lines in found:
-        for number, line in enumerate(lines, first):
-            example = EXAMPLE.match(line)
-            if line.startswith("#include"):
-                includes.append(line)
-            elif example:
-                expression, value = example.groups()
-                body.append(f"  check({number}, ({expression}), {value.strip()});")
-            else:
-                body.append(f'#line {number} "{document}"\n{line}')
+    for number, code, *value in statements:
+        if code.startswith("#include"):
+            includes.append(code)
+        elif value:
+            body.append(f"  check({number}, ({code}), {value[0]});")
+        else:
+            body.append(f'#line {number} "{name}"\n{code}')
     source, program = folder / "examples.cpp", folder / "examples"
     text = PRELUDE % ("\n".join(includes), "\n".join(body))
-    source.write_text(text.replace("DOCUMENT", f'"{document}"'))
+    source.write_text(text.replace("DOCUMENT", f'"{name}"'))
     build(build_dir, program, [source], build_dir / "refhost/librefhost.a")
     return subprocess.run([program], stdout=subprocess.DEVNULL).returncode == 0
+
+
+def statements_of_blocks(found):
+    for _, _, first, lines in found:
+        for number, line in enumerate(lines, first):
+            example = re.match(r'^(\S.*);\s+// ("[^"]*"|[^":]+)(?:: .*)?$', line)
+            yield (number, *example.groups()) if example else (number, line)
+
+
+def statements_of_header(header):
+    for name in ("labelsbase/labels.h", "refhost/refhost.h", header.resolve().relative_to(ROOT)):
+        yield 0, f'#include "{name}"'
+    yield 0, "#include <memory>"
+    yield 0, "using namespace labelsbase;"
+    for number, line in enumerate(header.read_text().splitlines(), 1):
+        if line.startswith("#include"):
+            return
+        found = re.match(r"//   (\S.*?)(?: +// (.*))?$", line)
+        code, remark = found.groups() if found else ("", None)
+        if code.endswith(";"):
+            yield number, code
+        elif remark:
+            value = re.match(r'"[^"]*"|\{[^}]*\}|[^:,]+', remark).group()
+            yield number, code, f"std::remove_cvref_t<decltype({code})>{value}" if value.startswith("{") else value
 
 
 def check_files(document, build_dir, folder, found):
@@ -129,27 +155,36 @@ def check_console(document, build_dir, found):
     return good
 
 
-def check_document(document, build_dir):
-    cpp = [block for block in blocks(document) if block[0] == "cpp"]
-    console = [block for block in blocks(document) if block[0] == "console"]
-    files = [block for block in cpp if block[1]]
-    expressions = [block for block in cpp if not block[1]]
-    good = check_console(document, build_dir, console)
-    with tempfile.TemporaryDirectory() as folder:
-        folder = pathlib.Path(folder)
-        if expressions:
-            good &= check_expressions(document, build_dir, folder, expressions)
+def check(path, build_dir):
+    with tempfile.TemporaryDirectory() as name:
+        folder = pathlib.Path(name)
+        if path.suffix == ".h":
+            statements = list(statements_of_header(path))
+            has_examples = any(len(statement) == 3 for statement in statements)
+            return not has_examples or run_statements(path, build_dir, folder, statements)
+        cpp = [block for block in blocks(path) if block[0] == "cpp"]
+        files = [block for block in cpp if block[1]]
+        rest = [block for block in cpp if not block[1]]
+        good = check_console(path, build_dir, [block for block in blocks(path) if block[0] == "console"])
+        if rest:
+            good &= run_statements(path, build_dir, folder, statements_of_blocks(rest))
         if files:
-            good &= check_files(document, build_dir, folder, files)
-    return good
+            good &= check_files(path, build_dir, folder, files)
+        return good
 
 
 def main():
     if len(sys.argv) < 3:
         sys.exit(__doc__)
     build_dir = pathlib.Path(sys.argv[1]).resolve()
-    results = [check_document(pathlib.Path(name), build_dir) for name in sys.argv[2:]]
-    sys.exit(0 if all(results) else 1)
+    good = True
+    for path in map(pathlib.Path, sys.argv[2:]):
+        try:
+            good &= check(path, build_dir)
+        except subprocess.CalledProcessError as error:
+            print(f"{path}: failed: {error.cmd[0]}", file=sys.stderr)
+            good = False
+    sys.exit(0 if good else 1)
 
 
 main()

@@ -8,7 +8,7 @@
 //
 //   label_cvt& cvt = *get_static_label_cvt(ink_35_label_t);
 //   LabelPoint point{cvt, 0};
-//   cvt.set_prefix(&point, "AB120000");
+//   cvt.set_prefix(&point, "AB120000+00");
 //   cvt.get_abs_string(&point, 100)             // "AB120001+09"
 //   cvt.get_abs_sample("AB120001+09")           // 100
 //   cvt.get_abs_sample("1234+05")               // 78996: a short text has zeros in front

@@ -1,6 +1,6 @@
 // What every label type is: one table, one row a type. Converters, the strict reader and the tool read it.
 //
-//   facts_of(keycode_16_label_t).film.gauge.perfs_per_count()   // 20 perforations a key
+//   facts_of(keycode_16_label_t).film.gauge.perfs_per_count()   // 20: perforations a key
 //   facts_of(ntsc_drop_label_t).timecode.count().split(1800)    // {0, 1, 0, 2}
 //   facts_of(tc_24_label_t).exchange.written                    // "24f"
 #pragma once
