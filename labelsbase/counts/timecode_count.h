@@ -56,20 +56,34 @@ class timecode_count {
   // Returns the fields of a sample. Hours run past 23 for samples beyond a day; a negative sample has negative
   // fields.
   [[nodiscard]] constexpr timecode_fields split(int sample) const noexcept {
-    if (drop_frame_ && sample < 0) return split_before_zero(sample);
-    int const label = drop_frame_ ? with_left_out_labels(sample) : sample;
-    int const seconds = per_second_.quotient(label);
-    int const minutes = seconds / 60;
-    int const hours = seconds / 3'600;
-    return {hours, minutes - hours * 60, seconds - minutes * 60, label - seconds * frames_per_second()};
+    if (sample >= 0) return split_from_zero(static_cast<unsigned>(sample));
+    if (drop_frame_) return split_before_zero(sample);
+    auto const [hours, minutes, seconds, frames] = split_from_zero(0U - static_cast<unsigned>(sample));
+    return {-hours, -minutes, -seconds, -frames};
+  }
+
+  // Returns the fields of a sample from 0 to 2^31.
+  [[nodiscard]] constexpr timecode_fields split_from_zero(unsigned sample) const noexcept {
+    unsigned const label = drop_frame_ ? with_left_out_labels(sample) : sample;
+    unsigned const seconds = per_second_.quotient_of_magnitude(label);
+    unsigned const minutes = seconds / 60;
+    unsigned const hours = seconds / 3'600;
+    return {static_cast<int>(hours), static_cast<int>(minutes - hours * 60),
+            static_cast<int>(seconds - minutes * 60),
+            static_cast<int>(label - seconds * static_cast<unsigned>(frames_per_second()))};
   }
 
   // Returns the sample of the fields, whatever they hold. A label that drop-frame leaves out comes out as one of
   // the last two samples of the minute before.
   [[nodiscard]] constexpr int join(timecode_fields const& fields) const noexcept {
     auto const [hours, minutes, seconds, frames] = fields;
-    int const in_minute = wrap_add(wrap_mul(seconds, frames_per_second()), frames);
-    return wrap_add(wrap_add(wrap_mul(hours, labels_per_hour()), minute_start(minutes)), in_minute);
+    if (drop_frame_) {
+      int const in_minute = wrap_add(wrap_mul(seconds, 30), frames);
+      return wrap_add(wrap_add(wrap_mul(hours, drop_hour), minute_start(minutes)), in_minute);
+    }
+    int const all_minutes = wrap_add(wrap_mul(hours, 60), minutes);
+    int const all_seconds = wrap_add(wrap_mul(all_minutes, 60), seconds);
+    return wrap_add(wrap_mul(all_seconds, frames_per_second()), frames);
   }
 
   // Whether drop-frame leaves this label out: frames 00 and 01 of a minute that is not a multiple of ten.
@@ -86,11 +100,11 @@ class timecode_count {
 
   static_assert(ten_minutes == 17'982 && drop_hour == 107'892 && 24 * drop_hour == 2'589'408);
 
-  // For samples from 0.
-  [[nodiscard]] static constexpr int with_left_out_labels(int sample) noexcept {
-    int const tens = sample / ten_minutes;
-    int const short_minutes = (sample % ten_minutes - 2) / short_minute;
-    return wrap_add(sample, 18 * tens + 2 * short_minutes);
+  [[nodiscard]] static constexpr unsigned with_left_out_labels(unsigned sample) noexcept {
+    unsigned const tens = sample / ten_minutes;
+    unsigned const in_ten_minutes = sample - tens * ten_minutes;
+    unsigned const short_minutes = in_ten_minutes < 2 ? 0 : (in_ten_minutes - 2) / short_minute;
+    return sample + 18 * tens + 2 * short_minutes;
   }
 
   // Deliberate: below zero only hours and tens of minutes are split off, and what is left counts as seconds.
@@ -99,10 +113,9 @@ class timecode_count {
     return {sample / drop_hour, sample % drop_hour / ten_minutes * 10, in_ten_minutes / 30, in_ten_minutes % 30};
   }
 
-  // Returns the sample from which a minute of the hour counts its seconds and frames. In a short minute that is
-  // two samples before its first label, frame 02.
-  [[nodiscard]] constexpr int minute_start(int minutes) const noexcept {
-    if (!drop_frame_) return wrap_mul(wrap_mul(minutes, 60), frames_per_second());
+  // Returns the sample from which a minute of the drop-frame hour counts its seconds and frames. In a short minute
+  // that is two samples before its first label, frame 02.
+  [[nodiscard]] static constexpr int minute_start(int minutes) noexcept {
     int const before_minute_0 = minutes % 10 < 0 ? 2 : 0;
     return wrap_add(wrap_mul(minutes / 10, ten_minutes), minutes % 10 * short_minute - before_minute_0);
   }

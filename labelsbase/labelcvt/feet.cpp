@@ -49,7 +49,7 @@ int foot_label::get_abs_sample(char const* text) { return feet_to_samples(text);
 char const* foot_label::samples_to_feet(LabelPoint* point, int perfs) {
   if (!point) return "";
   auto at = gauge_.split(wrap_magnitude(perfs));
-  if (at.count >= feet_limit()) at.count -= feet_limit();
+  if (int const limit = feet_limit(); at.count >= limit) at.count -= limit;
 
   text_writer out{point->text};
   if (*point->label_template.text() == '-') out.put(perfs < 0 ? '-' : ' ');
@@ -78,7 +78,8 @@ int foot_label::feet_to_samples(char const* text) {
 char const* foot_353_label::samples_to_feet(LabelPoint* point, int perfs) {
   if (!point) return "";
   auto const at = gauge_.split(wrap_magnitude(perfs));
-  feet_ = at.count > feet_limit() ? at.count - feet_limit() : at.count;  // deliberate: only feet above the limit
+  int const limit = feet_limit();
+  feet_ = at.count > limit ? at.count - limit : at.count;  // deliberate: only feet above the limit
   frame_ = at.frame;
   remainder_ = at.perfs_left;
 

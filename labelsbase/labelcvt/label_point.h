@@ -24,8 +24,8 @@
 
 class label_cvt;
 
-// A sample, the converter that writes its text, and the buffer for that text. A plain value: the fields are open, since
-// hosts' own converters read and write them.
+// A sample, the converter that writes its text, and the buffer for that text. A plain value: the fields are open,
+// since hosts' own converters read and write them.
 class LABELSBASE_API LabelPoint {
  public:
   static constexpr std::size_t prefix_length = 20;  // characters, without the terminator
@@ -50,8 +50,8 @@ class LABELSBASE_API LabelPoint {
   // Makes the invalid point: invalid converter, sample 0, empty prefix and template.
   LabelPoint() noexcept;
 
-  // Makes the label of a type at a sample, which wraps into the type's range. Uses the shared converter, and the invalid
-  // converter for types without labels.
+  // Makes the label of a type at a sample, which wraps into the type's range. Uses the shared converter, and the
+  // invalid converter for types without labels.
   LabelPoint(label_t type, int at_sample);
 
   // Makes the label of a converter, which must outlive the point.
@@ -68,8 +68,8 @@ class LABELSBASE_API LabelPoint {
 
   [[nodiscard]] label_cvt* cvt() const noexcept { return converter; }
 
-  // Returns the label's text, for example "-00:00:01.00". Returns "???" for the invalid converter and the template's
-  // placeholder for a special sample. The text is valid until the next conversion into this point.
+  // Returns the label's text, for example "-00:00:01.00". Returns "???" for the invalid converter and the
+  // template's placeholder for a special sample. The text is valid until the next conversion into this point.
   char const* get_string();
 
   // Returns the label's text as keep strings hold it.
@@ -78,18 +78,18 @@ class LABELSBASE_API LabelPoint {
   // Splits a timecode into hours, minutes, seconds and frames, and returns the frames. For other types all are 0.
   int get_hmsf(short& h, short& m, short& s, short& f);
 
-  // Whether both have the same type and sample and, for types with a prefix, the same prefix. Templates and texts are not
-  // compared.
+  // Whether both have the same type and sample and, for types with a prefix, the same prefix. Templates and texts
+  // are not compared.
   [[nodiscard]] bool operator==(LabelPoint const& other) const;
 
-  // Return the sum and the difference of two points of one type, moved into its range, without a prefix. Points of two
-  // types return the invalid point.
+  // Return the sum and the difference of two points of one type, moved into its range, without a prefix. Points of
+  // two types return the invalid point.
   [[nodiscard]] LabelPoint operator+(LabelPoint const& other) const;
   [[nodiscard]] LabelPoint operator-(LabelPoint const& other) const;
 
-  // Gives a key number a longer or shorter count of the same gauge. A longer count takes its leading digits from the end
-  // of the prefix; a shorter one drops its leading digits. The prefix field stays as it is. Does nothing for any other
-  // type, of the point or asked for.
+  // Gives a key number a longer or shorter count of the same gauge. A longer count takes its leading digits from
+  // the end of the prefix; a shorter one drops its leading digits. The prefix field stays as it is. Does nothing
+  // for any other type, of the point or asked for.
   void modify_type(label_t type);
 
   // Does the same by the digits of the count, 4 to 6. Does nothing for any other number.

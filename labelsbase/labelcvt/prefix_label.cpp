@@ -21,10 +21,7 @@ void copy_prefix(char (&to)[prefix_label::longest_prefix + 1], char const* text,
 
 // Whether a point's prefix field holds `length` characters or more.
 bool has_whole_prefix(char const* prefix, std::size_t length) noexcept {
-  if (length > LabelPoint::prefix_length) return false;
-  for (; length > 0; --length)
-    if (!*prefix++) return false;
-  return true;
+  return length <= LabelPoint::prefix_length && !std::memchr(prefix, '\0', length);
 }
 
 constexpr int largest_count(unsigned digits) noexcept {
@@ -107,8 +104,10 @@ char const* prefix_label::write_label(LabelPoint* point, int count, int frame, c
   constexpr int longest = 19;
   auto const& own = *point->converter;
   char const* prefix = or_empty(own.get_prefix(point));
-  char* out = point->text;
-  for (int left = std::min(own.get_prefix_length(), longest); left > 0 && *prefix; --left) *out++ = *prefix++;
+  auto const prefix_size =
+      strnlen(prefix, static_cast<std::size_t>(std::clamp(own.get_prefix_length(), 0, longest)));
+  std::memcpy(point->text, prefix, prefix_size);
+  char* out = point->text + prefix_size;
 
   // Nearly every label has two digits of frames behind a count of its length.
   auto const room = point->text + longest - out;

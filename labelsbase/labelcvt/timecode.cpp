@@ -55,18 +55,25 @@ inline bool read_columns(char const* text, timecode_fields& fields) noexcept {
   return !is_digit(text[12]);
 }
 
-// Writes a label in full columns. Hours are below 100, frames below 10 to the `frame_digits`, 2 or 3.
-inline void put_columns(char* out, timecode_fields const& fields, char separator, int frame_digits) noexcept {
+// Writes "hh:mm:ss". Each field has two digits.
+inline void put_time(char* out, timecode_fields const& fields) noexcept {
   put_pair(out, fields.hours);
   out[2] = ':';
   put_pair(out + 3, fields.minutes);
   out[5] = ':';
   put_pair(out + 6, fields.seconds);
-  out[8] = separator;
-  out += 9;
-  if (frame_digits == 3) *out++ = static_cast<char>('0' + fields.frames / 100);
-  put_pair(out, frame_digits == 3 ? fields.frames % 100 : fields.frames);
-  out[2] = '\0';
+}
+
+// Writes frames of two or three digits, and the terminator.
+inline void put_frames(char* out, int frames, int digits) noexcept {
+  if (digits == 2) {
+    put_pair(out, frames);
+    out[2] = '\0';
+  } else {
+    *out = static_cast<char>('0' + frames / 100);
+    put_pair(out + 1, frames % 100);
+    out[3] = '\0';
+  }
 }
 
 // Writes the fields that `format` asks for. Fields that it does not ask for are left out while they are zero, from
@@ -155,7 +162,6 @@ void timecode_label::use_setting(timecode_facts const& facts) {
 }
 
 void timecode_label::settle_arithmetic() noexcept {
-  arithmetic_is_settled_ = true;
   bool const has_columns = (format_ & Format_hours) && !(format_ & Format_slow_timecode);
   plain_samples_ = has_columns ? static_cast<unsigned>(samples_per_day_) : 0;
 }
@@ -201,11 +207,6 @@ void ntsc_drop_label::sample_to_hmsf(int sample, bool& second_field) {
 
 int ntsc_drop_label::hmsf_to_sample() { return ntsc_drop.join(remembered()); }
 
-int timecode_label::sample_of(timecode_fields const& fields) {
-  remember(fields);
-  return arithmetic_is_settled_ ? count_.join(fields) : hmsf_to_sample();
-}
-
 int timecode_label::get_abs_hmsf(int sample, short& h, short& m, short& s, short& f) {
   bool second_field = false;
   sample_to_hmsf(sample, second_field);
@@ -230,23 +231,23 @@ int timecode_label::get_abs_sample(double seconds) {
 // --- Texts and packed digits ---
 
 char const* timecode_label::sample_to_string(LabelPoint* point, int sample) {
-  if (point && splits_plainly(sample)) {
-    auto const fields = count_.split(sample);
-    remember(fields);
-    char* out = point->text;
-    if (has_sign_column(*point)) *out++ = ' ';
-    put_columns(out, fields, separator_, frame_digits_);
-    return point->text;
-  }
-  if (is_special_sample(sample)) return get_invalid_string(point, sample);
-  if (!point) return "";
-  write_any(*point, sample);
+  if (!point || !splits_plainly(sample)) return write_any(point, sample);
+  char* out = point->text;
+  if (has_sign_column(*point)) *out++ = ' ';
+  out[8] = separator_;
+  auto const fields = count_.split_from_zero(static_cast<unsigned>(sample));
+  remember(fields);
+  put_time(out, fields);
+  put_frames(out + 9, fields.frames, frame_digits_);
   return point->text;
 }
 
-void timecode_label::write_any(LabelPoint& point, int sample) {
-  text_writer out{point.text};
-  if (has_sign_column(point)) {
+char const* timecode_label::write_any(LabelPoint* point, int sample) {
+  if (is_special_sample(sample)) return get_invalid_string(point, sample);
+  if (!point) return "";
+
+  text_writer out{point->text};
+  if (has_sign_column(*point)) {
     out.put(sample < 0 ? '-' : ' ');
     if (sample < 0) sample = wrap_negate(sample);
   } else if (sample < 0) {
@@ -258,11 +259,10 @@ void timecode_label::write_any(LabelPoint& point, int sample) {
   bool const is_slow = (format_ & Format_slow_timecode) != 0;
   char const separator = !is_slow ? separator_ : second_field ? ':' : '.';
   put_fields(out, remembered(), format_, separator, frame_digits_);
+  return point->text;
 }
 
 bool timecode_label::read_fields(char const* text, unsigned format, timecode_fields& fields) const noexcept {
-  if ((format & Format_hours) && read_columns(text, fields)) return true;
-
   text_reader in{text};
   auto const field = [&](int& value) {
     auto const number = in.number();
@@ -283,22 +283,37 @@ bool timecode_label::read_fields(char const* text, unsigned format, timecode_fie
 int timecode_label::get_abs_sample(char const* text) {
   timecode_fields fields;
   text = or_empty(text);
+  if (!reads_plainly() || !read_columns(text, fields)) return read_any(text);
+  remember(fields);
+  return count_.join(fields);
+}
+
+// A function of its own: nearly every text has full columns, and reading those needs no stack.
+[[gnu::noinline]] int timecode_label::read_any(char const* text) {
+  timecode_fields fields;
   bool const negative = *text == '-';
-  if (!read_fields(text + negative, format_, fields)) {
-    remember(fields);
-    return negative ? unreadable_negative_sample : invalid_sample;
-  }
-  int const sample = sample_of(fields);
+  bool const is_read = read_fields(text + negative, format_, fields);
+  remember(fields);
+  if (!is_read) return negative ? unreadable_negative_sample : invalid_sample;
+  int const sample = hmsf_to_sample();
   return negative ? wrap_negate(sample) : sample;
 }
 
 int ntsc_drop_label::get_abs_sample(char const* text) {
   timecode_fields fields;
   text = or_empty(text);
-  if (*text == '-') return 0;
-  if (read_fields(text, Format_hours, fields)) return sample_of(fields);
+  if (!reads_plainly() || !read_columns(text, fields)) return read_any(text);
   remember(fields);
-  return invalid_sample;
+  return ntsc_drop.join(fields);
+}
+
+// Drop-frame reads whole labels only, whatever the format says.
+[[gnu::noinline]] int ntsc_drop_label::read_any(char const* text) {
+  timecode_fields fields;
+  if (*text == '-') return 0;
+  bool const is_read = read_fields(text, Format_hours, fields);
+  remember(fields);
+  return is_read ? hmsf_to_sample() : invalid_sample;
 }
 
 int timecode_label::get_abs_sample_from_packed_string(char const* text) {
@@ -308,7 +323,8 @@ int timecode_label::get_abs_sample_from_packed_string(char const* text) {
   auto const seconds = in.number(2);
   auto const frames = in.number(frame_digits_);
   if (!hours || !minutes || !seconds || !frames) return invalid_sample;
-  return sample_of({*hours, *minutes, *seconds, *frames});
+  remember({*hours, *minutes, *seconds, *frames});
+  return hmsf_to_sample();
 }
 
 int timecode_label::get_sample_span_from_packed_strings(char const* from, char const* to) {
@@ -323,7 +339,7 @@ char const* timecode_label::get_abs_string(LabelPoint* point, int sample) {
 // Deliberate: frames are packed as counted, so from 40 up their tens reach the drop-frame bit and beyond.
 unsigned timecode_label::sample_to_smpte_string(LabelPoint*, int sample) {
   if (splits_plainly(sample)) {
-    auto const fields = count_.split(sample);
+    auto const fields = count_.split_from_zero(static_cast<unsigned>(sample));
     remember(fields);
     return packed(fields, count_.is_drop_frame());
   }

@@ -120,21 +120,21 @@ class LABELSBASE_API timecode_label : public variable_label {
   void remember(labelsbase::timecode_fields const& fields) noexcept;
   [[nodiscard]] labelsbase::timecode_fields remembered() const noexcept;
 
-  // Remembers the fields and returns their sample.
-  [[nodiscard]] int sample_of(labelsbase::timecode_fields const& fields);
+  // Whether labels in full columns read by the count alone.
+  [[nodiscard]] bool reads_plainly() const noexcept { return plain_samples_ != 0; }
 
  private:
   LABELSBASE_LOCAL void use_setting(labelsbase::timecode_facts const& facts);
-  LABELSBASE_LOCAL void write_any(LabelPoint& point, int sample);
+  LABELSBASE_LOCAL char const* write_any(LabelPoint* point, int sample);
+  [[nodiscard]] LABELSBASE_LOCAL int read_any(char const* text);
 
-  // Whether the fields of a sample follow from the count alone, within a day.
+  // Whether the fields of a sample within the day follow from the count alone, and fill their columns.
   [[nodiscard]] bool splits_plainly(int sample) const noexcept {
     return static_cast<unsigned>(sample) < plain_samples_;
   }
 
   labelsbase::timecode_count count_;
   unsigned plain_samples_ = 0;
-  bool arithmetic_is_settled_ = false;
   int frame_digits_ = 2;
   int typed_frames_ = 29;  // the frames of the template
 };
@@ -184,4 +184,7 @@ class LABELSBASE_API ntsc_drop_label : public labelsbase::timecode_rate<ntsc_dro
 
   // Deliberate: a label that is left out reads as one of the last two samples of the minute before.
   int hmsf_to_sample() override;
+
+ private:
+  [[nodiscard]] LABELSBASE_LOCAL int read_any(char const* text);
 };

@@ -51,7 +51,7 @@ class text_writer {
 
   // Writes a number as "%0*d" does: at least `width` characters, the sign included.
   text_writer& number(int value, int width = 0) noexcept {
-    return signed_digits(value, std::max(width, 1) - (value < 0));
+    return signed_digits(value, value < 0 ? std::max(width, 1) - 1 : width);
   }
 
   // Writes a number as "%.*d" does: a sign if it is negative, then at least `digits` digits.
