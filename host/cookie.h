@@ -8,6 +8,7 @@ struct Cookie {
   std::uint64_t high = 0;
   std::uint64_t low = 0;
 
+  // Compares all 128 bits.
   friend bool operator==(Cookie const&, Cookie const&) = default;
 };
 

@@ -32,11 +32,13 @@ class Ptr {
  public:
   using count_type = typename CountTraits::count_type;
 
+  // An empty handle.
   constexpr Ptr() noexcept = default;
 
   // Takes over the count of 1 that a new object starts with.
   Ptr(count_type* count, Object* object) noexcept : count_{count}, object_{object} {}
 
+  // A copy raises the count. Assignment raises the new count before it lowers the old one.
   Ptr(Ptr const& other) noexcept : count_{other.count_}, object_{other.object_} { raise(); }
 
   Ptr& operator=(Ptr const& other) noexcept {
@@ -48,8 +50,10 @@ class Ptr {
     return *this;
   }
 
+  // Lowers the count, and destroys the object when the count falls to 0.
   constexpr ~Ptr() { lower(); }
 
+  // Returns the object, or null if the handle is empty.
   [[nodiscard]] Object* get() const noexcept { return object_; }
 
   // Returns the number of handles on the object, or 0 for an empty handle. If it is 1, no other thread can change
@@ -94,7 +98,10 @@ class LightweightString {
     };
   };
 
+  // The empty string.
   constexpr LightweightString() noexcept = default;
+
+  // Copies `text` up to its terminator.
   LightweightString(Char const* text) noexcept  // NOLINT(google-explicit-constructor): a text is a string
       : LightweightString{text, text ? std::char_traits<Char>::length(text) : 0} {}
 
@@ -111,6 +118,7 @@ class LightweightString {
   // Returns the characters that the buffer has room for, or 0 without a buffer.
   [[nodiscard]] std::uint32_t capacity() const noexcept { return impl() ? impl()->capacity : 0; }
 
+  // Returns true if the length is 0.
   [[nodiscard]] bool empty() const noexcept { return length() == 0; }
 
   // Returns the number of strings that share the buffer, or 0 without a buffer.
@@ -128,6 +136,7 @@ class LightweightString {
     return impl() ? impl()->characters : nullptr;
   }
 
+  // Compares the texts, whether or not they share a buffer.
   friend bool operator==(LightweightString const& a, LightweightString const& b) noexcept {
     return a.length() == b.length() && std::char_traits<Char>::compare(a.c_str(), b.c_str(), a.length()) == 0;
   }

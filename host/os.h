@@ -37,8 +37,10 @@ class ReferenceCounts {
 
 class OperatingServices {
  public:
-  // Each returns the same object for the life of the process.
+  // Returns the host's allocator, the same object for the life of the process.
   virtual Allocator& allocator() noexcept = 0;
+
+  // Returns the host's reference counts, the same object for the life of the process.
   virtual ReferenceCounts& reference_counts() noexcept = 0;
 
  protected:

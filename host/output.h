@@ -43,9 +43,13 @@ class OutputGearing {
   // Option 1 reads the gearing of the current project at the moment of the call. The library uses no other option.
   explicit OutputGearing(int option);
 
+  // A gearing of these values.
   OutputGearing(FrameRate rate, bool use_pulldown) : rate_{rate}, use_pulldown_{use_pulldown} {}
 
+  // Returns the rate of the playout.
   FrameRate getFrameRate() const { return rate_; }
+
+  // Returns true if the playout goes through a pulldown.
   bool getUsePulldown() const { return use_pulldown_; }
 
  private:
