@@ -1,19 +1,43 @@
-// Arguments that several verbs take.
+// Arguments and options, declared alike for every command.
 #pragma once
 
+#include <initializer_list>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace CLI {
 class App;
-}
+class Option;
+}  // namespace CLI
 
 namespace cli {
 
-// TYPE, a required label type, to be looked up by find_label_type.
-void add_type(CLI::App& verb, std::string& type);
+// Declares TYPE, a required label type, which find_label_type reads.
+void add_type(CLI::App& command, std::string& type);
 
-// Operands, any number of them, that are taken as they stand: "-1", "[1,2]" and all that follow "--" too.
-void add_operands(CLI::App& verb, char const* name, char const* meaning, std::vector<std::string>& operands);
+// Declares a required argument.
+void add_required(CLI::App& command, char const* name, std::string& value, char const* meaning);
+
+// Declares any number of operands, which may be anything: "-1", "[1,2]" and all that follows "--" too.
+void add_operands(CLI::App& command, char const* name, char const* meaning, std::vector<std::string>& operands);
+
+// Declares an option with a value. `shape` stands for the value in the help, for example "LABEL [00:00:00:00]"
+// with the default in brackets.
+CLI::Option* add_option(CLI::App& command, char const* name, char const* shape, std::string& value,
+                        char const* meaning);
+CLI::Option* add_option(CLI::App& command, char const* name, char const* shape, std::optional<std::string>& value,
+                        char const* meaning);
+
+// Declares an option without a value.
+CLI::Option* add_flag(CLI::App& command, char const* name, bool& flag, char const* meaning);
+
+// End the command's help with example lines, such as "show 25f 90000", or with a text.
+void add_examples(CLI::App& command, std::initializer_list<char const*> lines);
+void add_note(CLI::App& command, char const* text);
+
+// Returns the value of an option as a whole number from `least` to `most`, or refuses it.
+[[nodiscard]] int number_in(std::string_view option, std::string_view value, int least, int most);
 
 }  // namespace cli

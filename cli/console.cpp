@@ -1,27 +1,93 @@
 #include "cli/console.h"
 
-#include <unistd.h>
+#include <sys/stat.h>
 
+#include <cerrno>
+#include <charconv>
+#include <cstring>
+#include <stdexcept>
 #include <system_error>
 
-namespace cli {
+#include "cli/text.h"
 
-console::console() : results{STDOUT_FILENO} {}
+namespace cli {
+namespace {
+
+bool are_one_file(int a, int b) noexcept {
+  struct stat of_a {};
+  struct stat of_b {};
+  return fstat(a, &of_a) == 0 && fstat(b, &of_b) == 0 && of_a.st_dev == of_b.st_dev && of_a.st_ino == of_b.st_ino;
+}
+
+}  // namespace
+
+void output::write(std::string_view text) noexcept {
+  while (!text.empty()) {
+    if (used_ == buffer_.size()) flush();
+    auto const part = text.substr(0, buffer_.size() - used_);
+    std::memcpy(buffer_.data() + used_, part.data(), part.size());
+    used_ += part.size();
+    text.remove_prefix(part.size());
+  }
+}
+
+void output::line(std::string_view text) noexcept {
+  write(text);
+  write("\n");
+}
+
+void output::line(std::int32_t number) noexcept {
+  constexpr std::size_t longest = sizeof "-2147483648";  // the newline takes the place of the terminator
+  if (buffer_.size() - used_ < longest) flush();
+  char* const out = buffer_.data() + used_;
+  char* const end = std::to_chars(out, out + longest, number).ptr;
+  *end = '\n';
+  used_ += static_cast<std::size_t>(end - out) + 1;
+}
+
+void output::flush() noexcept {
+  char const* next = buffer_.data();
+  while (used_ > 0 && error_ == 0) {
+    auto const written = ::write(fd_, next, used_);
+    if (written < 0) {
+      if (errno != EINTR) error_ = errno;
+      continue;
+    }
+    next += written;
+    used_ -= static_cast<std::size_t>(written);
+  }
+  used_ = 0;
+}
+
+console::console() noexcept : messages_{are_one_file(STDOUT_FILENO, STDERR_FILENO) ? results : errors_} {}
+
+void console::say(std::string_view message) noexcept {
+  messages_.write("labels: ");
+  messages_.line(message);
+}
 
 void console::flush() noexcept {
   results.flush();
-  errors.flush();
+  errors_.flush();
 }
 
-exit_status console::finish(exit_status so_far) {
+exit_status console::finish(exit_status so_far) noexcept {
   flush();
   if (results.error() == 0) return so_far;
 
-  output direct{STDERR_FILENO};  // the messages may share the output that failed
-  direct.write("labels: standard output: ");
-  direct.line(std::generic_category().message(results.error()));
-  direct.flush();
+  // The output that failed may be the one for messages too.
+  errors_.write("labels: standard output: ");
+  errors_.line(std::generic_category().message(results.error()));
+  errors_.flush();
   return failed;
+}
+
+std::string refusal(std::string_view where, std::string_view value, std::string_view why) {
+  return std::string{where}.append(" ").append(in_quotes(value)).append(": ").append(why);
+}
+
+void refuse(std::string_view where, std::string_view value, std::string_view why) {
+  throw std::runtime_error{refusal(where, value, why)};
 }
 
 }  // namespace cli

@@ -1,29 +1,71 @@
-// Results and messages together, and how it all went.
+// Where the tool writes: results to standard output, messages to standard error.
 #pragma once
 
-#include "cli/messages.h"
-#include "cli/output.h"
+#include <unistd.h>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
 
 namespace cli {
 
-// Exit codes.
 enum exit_status : int {
   all_well = 0,
-  some_refused = 1,  // some of the input; the rest was done
-  failed = 2,        // wrong usage, or the input or the output failed
+  some_refused = 1,  // some of the input was refused; the rest was processed
+  failed = 2,        // wrong usage, or reading or writing failed
+};
+
+// Collects text and writes it to a file descriptor in blocks. The destructor writes nothing.
+class output {
+ public:
+  explicit output(int fd) noexcept : fd_{fd} {}
+  output(output const&) = delete;
+  output& operator=(output const&) = delete;
+
+  void write(std::string_view text) noexcept;
+
+  // Writes the text or number and ends the line.
+  void line(std::string_view text) noexcept;
+  void line(std::int32_t number) noexcept;
+
+  // Writes out what has been collected.
+  void flush() noexcept;
+
+  // Returns the errno of the write that failed, or 0.
+  [[nodiscard]] int error() const noexcept { return error_; }
+
+ private:
+  int fd_;
+  int error_ = 0;
+  std::size_t used_ = 0;
+  std::array<char, 65'536> buffer_;
 };
 
 class console {
  public:
-  console();
+  console() noexcept;
 
-  output results;
-  messages errors{results};
+  output results{STDOUT_FILENO};
+
+  // Writes a message line: say("standard input: Is a directory") writes "labels: standard input: Is a directory".
+  void say(std::string_view message) noexcept;
 
   void flush() noexcept;
 
-  // Reports what could not be written, and gives the program's exit code.
-  [[nodiscard]] exit_status finish(exit_status so_far);
+  // Flushes, reports a failure to write the results, and returns the program's exit code.
+  [[nodiscard]] exit_status finish(exit_status so_far) noexcept;
+
+ private:
+  output errors_{STDERR_FILENO};
+  output& messages_;  // `results` if both go to one file or terminal, to keep messages and results in order
 };
+
+// Returns the message that refuses a value: `--key "1": expected a key of 4 digits and a frame of 2`.
+[[nodiscard]] std::string refusal(std::string_view where, std::string_view value, std::string_view why);
+
+// Reports the value as refused and ends the command with exit code 2.
+[[noreturn]] void refuse(std::string_view where, std::string_view value, std::string_view why);
 
 }  // namespace cli

@@ -1,110 +1,134 @@
 #include "cli/label_io.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstring>
-#include <utility>
+#include <limits>
 
+#include "cli/arguments.h"
+#include "cli/console.h"
+#include "cli/names.h"
+#include "cli/text.h"
 #include "labelcheck/label_check.h"
+#include "labelsbase/labelcvt/label_facts.h"
 
 namespace cli {
 namespace {
+
+// Positions and suggestions refer to what the user typed, without the first `untyped` characters. Columns count
+// from 1.
+std::string worded(labelcheck::refusal const& refused, std::string_view untyped = "") {
+  if (refused.nearest.empty()) return refused.rule;
+  auto const column = refused.position - std::min(refused.position, untyped.size()) + 1;
+  auto nearest = refused.nearest;
+  if (nearest.starts_with(untyped)) nearest.erase(0, untyped.size());
+  return refused.rule + " (column " + std::to_string(column) + "); nearest is " + nearest;
+}
+
+problem read_whole(label_kind const& kind, std::string_view text, std::string_view untyped, label_parts& out) {
+  if (auto const refused = labelcheck::check(kind.type, text)) return worded(*refused, untyped);
+  auto& converter = *get_static_label_cvt(kind.type);
+  out = {converter.get_abs_sample(text.data()),
+         text.substr(0, static_cast<std::size_t>(converter.get_prefix_length()))};
+  return std::nullopt;
+}
+
+struct sample_range {
+  std::int64_t first, last;
+};
+
+// Returns the samples that film labels can express. Past their last count, labels start again at 0, but only once;
+// feet have a digit more than `count_digits` and run below zero, keys and ink numbers begin at 0.
+sample_range samples_with_labels(labelsbase::label_facts const& facts) noexcept {
+  constexpr sample_range every{std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()};
+  if (facts.family != User_keycode && facts.family != User_ink && facts.family != User_feet) return every;
+
+  // At 3 perforations a frame, frame 0 begins before its key or foot, and foot 100000 does not start again at 0.
+  auto const& gauge = facts.film.gauge;
+  int const before_key = gauge.has_whole_frames() ? 0 : gauge.perfs_per_frame() - 1;
+  bool const is_feet = facts.family == User_feet;
+  std::int64_t counts = is_feet ? 10 : 1;
+  for (int digit = 0; digit < facts.film.count_digits; ++digit) counts *= 10;
+  counts = 2 * counts + (is_feet && !gauge.has_whole_frames());
+
+  auto const last = counts * gauge.perfs_per_count() - 1 - before_key;
+  return {is_feet ? -last : -before_key, last};
+}
+
+}  // namespace
+
+problem read_label(label_t type, std::string_view text, label_parts& out) {
+  return read_whole({type, ""}, text, "", out);
+}
+
+void add_label_kind(CLI::App& command, label_arguments& given) {
+  add_type(command, given.type);
+  add_option(command, "--prefix", "PREFIX", given.prefix,
+             "Prefix of the key numbers or ink numbers, for example KJ123456");
+}
+
+label_kind find_label_kind(label_arguments const& given) {
+  auto const type = find_label_type("TYPE", given.type);
+  if (!given.prefix) return {type, ""};
+
+  auto const& facts = labelsbase::facts_of(type);
+  auto const length = static_cast<std::size_t>(facts.film.prefix_length);
+  if (length == 0)
+    refuse("--prefix", *given.prefix, std::string{facts.name} + " has no prefix; leave out --prefix");
+  auto const is_printable = [](char c) { return c > ' ' && c <= '~'; };
+  if (given.prefix->size() != length || !std::ranges::all_of(*given.prefix, is_printable))
+    refuse("--prefix", *given.prefix,
+           "expected the " + std::to_string(length) + " characters before the count of a " + facts.name +
+               ", printable and without blanks");
+  return {type, *given.prefix};
+}
+
+label_reader::label_reader(label_kind const& kind)
+    : kind_{kind},
+      prefix_length_{static_cast<std::size_t>(labelsbase::facts_of(kind.type).film.prefix_length)},
+      count_digits_{static_cast<std::size_t>(labelsbase::facts_of(kind.type).film.count_digits)} {}
+
+problem label_reader::read(std::string_view text, label_parts& out) {
+  if (kind_.prefix.empty()) return read_whole(kind_, text, "", out);
+  if (lacks_prefix(text)) {
+    whole_.assign(kind_.prefix).append(text);
+    return read_whole(kind_, whole_, kind_.prefix, out);
+  }
+  if (auto wrong = read_whole(kind_, text, "", out)) return wrong;
+  if (out.prefix == kind_.prefix) return std::nullopt;
+  return std::string{"the prefix is "}.append(out.prefix) + "; expected " + kind_.prefix;
+}
+
+// What stands before the frames is closer in length to a count than to prefix and count.
+bool label_reader::lacks_prefix(std::string_view text) const noexcept {
+  if (std::ranges::none_of(text, is_digit)) return false;
+  auto const length = std::min(text.find_last_of("+&"), text.size());
+  return !text.starts_with(kind_.prefix) && 2 * length < 2 * count_digits_ + prefix_length_;
+}
+
+label_writer::label_writer(label_kind const& kind) : negative_{kind.type, 0}, positive_{kind.type, 0} {
+  positive_.removePadding();
+  set_prefix(negative_, kind.prefix);
+  set_prefix(positive_, kind.prefix);
+  auto const [first, last] = samples_with_labels(labelsbase::facts_of(kind.type));
+  first_ = first;
+  last_ = last;
+}
+
+problem label_writer::write(int sample, std::string_view& label) {
+  if ((sample < first_ || sample > last_) && !labelsbase::is_special_sample(sample))
+    return std::string{"has no label; "} + positive_.cvt()->type_str() + " covers samples " +
+           std::to_string(first_) + " to " + std::to_string(last_);
+  auto& point = sample < 0 ? negative_ : positive_;
+  point.sample = sample;
+  label = point.get_string();
+  if (label.starts_with(' ')) label.remove_prefix(1);  // 3-perf feet always have the sign column
+  return std::nullopt;
+}
 
 void set_prefix(LabelPoint& point, std::string_view prefix) noexcept {
   auto const size = std::min(prefix.size(), LabelPoint::prefix_length);
   std::memcpy(point.prefix, prefix.data(), size);
   point.prefix[size] = '\0';
-}
-
-// Columns count from 1 for people.
-std::string described(labelcheck::refusal const& refused) {
-  if (refused.nearest.empty()) return refused.rule;
-  return refused.rule + " (column " + std::to_string(refused.position + 1) + "); nearest is " + refused.nearest;
-}
-
-}  // namespace
-
-void add_prefix(CLI::App& verb, std::optional<std::string>& prefix) {
-  verb.add_option("--prefix", prefix, "Prefix of the key numbers or ink numbers, for example KJ123456")
-      ->option_text("PREFIX");
-}
-
-bool accept_prefix(label_t type, std::optional<std::string> const& prefix, messages& errors) {
-  if (!prefix) return true;
-  auto const& converter = *get_static_label_cvt(type);
-  if (!converter.has_prefix()) {
-    errors.say("--prefix " + cli::quoted(*prefix) + ": " + converter.type_str() + " has no prefix; leave it out");
-    return false;
-  }
-  auto const is_printable = [](char c) { return c > ' ' && c <= '~'; };
-  auto const length = converter.get_prefix_length();
-  if (prefix->size() == static_cast<std::size_t>(length) && std::ranges::all_of(*prefix, is_printable))
-    return true;
-  errors.say("--prefix " + cli::quoted(*prefix) + ": expected the " + std::to_string(length) +
-             " characters before the count of a " + converter.type_str() + ", printable and without blanks");
-  return false;
-}
-
-label_reader::label_reader(label_t type, std::string prefix)
-    : converter_{*get_static_label_cvt(type)},
-      prefix_length_{static_cast<std::size_t>(converter_.get_prefix_length())},
-      prefix_{std::move(prefix)} {}
-
-problem label_reader::read(std::string_view text, LabelPoint& point) {
-  if (prefix_.empty()) return read_whole(text, point);
-  if (lacks_prefix(text)) return read_without_prefix(text, point);
-  if (auto wrong = read_whole(text, point)) return wrong;
-  if (point.prefix == prefix_) return std::nullopt;
-  return std::string{"the prefix is "} + point.prefix + "; expected " + prefix_;
-}
-
-// What stands before the frames is nearer in length to a count than to prefix and count.
-bool label_reader::lacks_prefix(std::string_view text) const noexcept {
-  if (text.find_first_of("0123456789") == std::string_view::npos) return false;
-  auto const length = std::min(text.find_last_of("+&"), text.size());
-  auto const count_length = static_cast<std::size_t>(converter_.get_count_length());
-  return !text.starts_with(prefix_) && 2 * length < 2 * count_length + prefix_length_;
-}
-
-problem label_reader::read_whole(std::string_view text, LabelPoint& point) const {
-  if (auto const refused = labelcheck::check(converter_.type(), text)) return described(*refused);
-  point.sample = converter_.get_abs_sample(text.data());
-  set_prefix(point, text.substr(0, prefix_length_));
-  return std::nullopt;
-}
-
-// Refused, it is described as it was written.
-problem label_reader::read_without_prefix(std::string_view text, LabelPoint& point) {
-  whole_.assign(prefix_).append(text);
-  auto refused = labelcheck::check(converter_.type(), whole_);
-  if (!refused) return read_whole(whole_, point);
-  refused->position -= std::min(refused->position, prefix_length_);
-  if (refused->nearest.starts_with(prefix_)) refused->nearest.erase(0, prefix_length_);
-  return described(*refused);
-}
-
-label_writer::label_writer(label_t type, std::string_view prefix) : negative_{type, 0}, positive_{type, 0} {
-  positive_.removePadding();
-  set_prefix(negative_, prefix);
-  set_prefix(positive_, prefix);
-}
-
-problem label_writer::write(int sample, std::string_view& label) {
-  auto& point = sample < 0 ? negative_ : positive_;
-  point.sample = sample;
-  label = point.get_string();
-  if (label.starts_with(' ')) label.remove_prefix(1);  // 3-perf feet keep the column whatever the template says
-  bool const is_film = point.cvt()->UserType() != User_timecode;
-  return is_film && !labelsbase::is_special_sample(sample) ? film_problem(sample, label) : std::nullopt;
-}
-
-// Below the first key, labels are rounded toward it.
-problem label_writer::film_problem(int sample, std::string_view label) const {
-  auto& converter = *positive_.cvt();
-  if (sample < 0 && converter.has_prefix() && converter.get_abs_sample(label.data()) != sample)
-    return "lies before the first label";
-  if (labelcheck::check(converter.type(), label)) return "lies beyond the last label";
-  return std::nullopt;
 }
 
 }  // namespace cli

@@ -1,12 +1,13 @@
 // Labels as users write and read them.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
-#include "cli/items.h"
-#include "cli/messages.h"
+#include "cli/input.h"
 #include "labelsbase/labels.h"
 
 namespace CLI {
@@ -15,45 +16,65 @@ class App;
 
 namespace cli {
 
-// --prefix, the prefix of key numbers and ink numbers.
-void add_prefix(CLI::App& verb, std::optional<std::string>& prefix);
+// What a label says.
+struct label_parts {
+  int sample;
+  std::string_view prefix;  // of a key number or ink number: part of the text that was read
+};
 
-// Whether labels of the type can have this prefix. Says so when they cannot.
-[[nodiscard]] bool accept_prefix(label_t type, std::optional<std::string> const& prefix, messages& errors);
+// Reads a label strictly, prefix included, or returns what is wrong with it. The text must be terminated.
+[[nodiscard]] problem read_label(label_t type, std::string_view text, label_parts& out);
 
-// Reads labels strictly. With a prefix, they may be written without it, and none may have another.
+// The arguments TYPE and --prefix.
+struct label_arguments {
+  std::string type;
+  std::optional<std::string> prefix;
+};
+
+// The labels that a command works on.
+struct label_kind {
+  label_t type;
+  std::string prefix;  // empty if none was given
+};
+
+void add_label_kind(CLI::App& command, label_arguments& given);
+
+// Refuses an unknown type and a prefix that its labels cannot have.
+[[nodiscard]] label_kind find_label_kind(label_arguments const& given);
+
+// Reads labels strictly. If the kind has a prefix, labels may be written without it, but not with another.
 class label_reader {
  public:
-  label_reader(label_t type, std::string prefix);
+  explicit label_reader(label_kind const& kind);
 
-  // Gives the point the sample and the prefix of a label, or says what is wrong with it. The text is terminated.
-  [[nodiscard]] problem read(std::string_view text, LabelPoint& point);
+  // As read_label. The prefix is valid until the next call.
+  [[nodiscard]] problem read(std::string_view text, label_parts& out);
 
  private:
   [[nodiscard]] bool lacks_prefix(std::string_view text) const noexcept;
-  [[nodiscard]] problem read_whole(std::string_view text, LabelPoint& point) const;
-  [[nodiscard]] problem read_without_prefix(std::string_view text, LabelPoint& point);
 
-  label_cvt& converter_;
+  label_kind kind_;
   std::size_t prefix_length_;
-  std::string prefix_;
-  std::string whole_;  // of the label in hand
+  std::size_t count_digits_;
+  std::string whole_;  // prefix and label
 };
 
-// Shows samples as labels. A positive label has no sign column.
+// Writes samples as labels. Positive labels have no sign column.
 class label_writer {
  public:
-  label_writer(label_t type, std::string_view prefix);
+  explicit label_writer(label_kind const& kind);
 
-  // The label at a sample, or what is wrong with it: film has no labels before the first key number, and none that
-  // its type would not read. Good until the next call.
+  // Writes the label of a sample, or returns why it has none. The label is valid until the next call.
   [[nodiscard]] problem write(int sample, std::string_view& label);
 
  private:
-  [[nodiscard]] problem film_problem(int sample, std::string_view label) const;
-
   LabelPoint negative_;
   LabelPoint positive_;
+  std::int64_t first_;  // samples that have a label
+  std::int64_t last_;
 };
+
+// Copies a prefix into the point; the part that does not fit is left out.
+void set_prefix(LabelPoint& point, std::string_view prefix) noexcept;
 
 }  // namespace cli

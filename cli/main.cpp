@@ -1,4 +1,4 @@
-// labels: turns labels into samples and back.
+// labels: converts labels to samples and back.
 
 #include <CLI/CLI.hpp>
 #include <exception>
@@ -7,79 +7,85 @@
 
 #include "cli/console.h"
 #include "cli/settings.h"
-#include "cli/verbs.h"
+#include "cli/text.h"
+#include "cli/verbs/commands.h"
 #include "labelsbase/version.h"
 
 namespace {
 
-struct verb {
+struct command_row {
   char const* name;
   char const* purpose;
-  cli::verb_run (*declare)(CLI::App&);
+  cli::command_run (*declare)(CLI::App&);
 };
 
-constexpr verb verbs[] = {
-    {"types", "List the label types: only those with a template have labels", cli::declare_types},
-    {"show", "Turn samples into labels", cli::declare_show},
-    {"read", "Turn labels into samples", cli::declare_read},
-    {"add", "Go on from a label by frames", cli::declare_add},
-    {"diff", "Subtract labels from one label, in frames", cli::declare_diff},
-    {"keep", "Explain the keep strings of labels, or write one", cli::declare_keep},
-    {"count", "Count film and video frames, across a pulldown", cli::declare_count},
-    {"cadence", "Lay film frames out over video frames", cli::declare_cadence},
-    {"media", "List the media", cli::declare_media},
-    {"roll", "Read medium-roll identifiers, and say which will do for another", cli::declare_roll},
-    {"pitch", "Say how fast a label runs on a medium", cli::declare_pitch},
-    {"clock", "Turn clock time into cel time, and back", cli::declare_clock},
-    {"choices", "List the label choices of the user interface", cli::declare_choices},
+constexpr command_row commands[] = {
+#define LABELS_COMMAND_ROW(name, purpose) {#name, purpose, cli::commands::declare_##name},
+    LABELS_COMMANDS(LABELS_COMMAND_ROW)
+#undef LABELS_COMMAND_ROW
 };
 
 constexpr char const* about =
-    "Turns labels (timecode, film key numbers, ink numbers, feet and frames) into samples and back.\n"
-    "Without SAMPLE, LABEL, N or B, takes one a line from standard input. What cannot be taken is\n"
-    "reported, and the rest is done. Exit code 0: all well, 1: some of the input was refused,\n"
-    "2: wrong usage, or reading or writing failed.";
+    "Converts labels (timecode, film key numbers, ink numbers, feet and frames) to samples and back.\n"
+    "\n"
+    "Commands that take any number of operands read them from standard input, one per line, if none\n"
+    "are given. Invalid input is reported with the reason; the rest is still processed.\n"
+    "\n"
+    "Exit codes: 0 if all went well, 1 if some input was refused, 2 for wrong usage or if reading or\n"
+    "writing failed.\n";
 
 constexpr char const* examples =
     "Examples:\n"
-    "  labels types\n"
     "  labels show 30f-drop 0 1799 1800 17982\n"
-    "  labels show 25f -- -25 90000\n"
     "  labels read 24f 00:59:54:18 01:00:07+00\n"
     "  awk '/^[0-9]+ /{print $NF}' cut.edl | labels read 25f\n"
     "  labels show F353 --prefix KJ123456 0 3 62\n"
-    "  labels add F35 KJ1234560123+07 100\n"
     "  labels --set config.50p_timecode_type=2 show 50f 7\n"
-    "  labels count 30f-drop --transfer 2:3 --edit film '01:00:00;00'\n"
-    "  labels cadence --transfer 2:3 --phase 2 --frames 24\n"
-    "  labels keep --write 25f --start 01:00:00:00 --length 250 --roll 20,2\n"
-    "  labels roll --for 29,1 28,1 out_24i\n"
-    "  labels clock --project-rate 24 --output-rate 29.97 3600\n\n";
+    "\n"
+    "Run 'labels COMMAND --help' for the arguments of a command and more examples.\n";
 
-// Of a word that is no verb, the parser only says that a verb is required.
-std::string what_is_wrong(CLI::App const& app, CLI::ParseError const& wrong) {
-  auto const words = app.remaining();
-  if (!app.get_subcommands().empty() || words.empty() || words.front().starts_with('-')) return wrong.what();
-  std::string text = cli::quoted(words.front()) + " is no verb; expected";
-  for (auto const& each : verbs) text.append(&each == verbs ? " " : ", ").append(each.name);
+std::string expected_commands() {
+  std::string text{"expected "};
+  for (auto const& each : commands) text.append(&each == commands ? "" : ", ").append(each.name);
   return text;
+}
+
+// Words the parser's error as the tool's own messages are worded.
+std::string what_is_wrong(CLI::App const& app, CLI::ParseError const& error) {
+  auto const chosen = app.get_subcommands();
+  auto const words = app.remaining(true);
+  bool const is_word_first = !words.empty() && !words.front().starts_with('-');
+  if (chosen.empty() && is_word_first)
+    return "unknown command " + cli::in_quotes(words.front()) + "; " + expected_commands();
+
+  std::string const help = chosen.empty() ? "labels" : "labels " + chosen.front()->get_name();
+  std::string what = error.what();
+  if (!words.empty())
+    what = "unexpected argument " + cli::in_quotes(words.front());
+  else if (chosen.empty() && error.get_name() == "RequiredError")
+    what = "a command is required; " + expected_commands();
+  else if (error.get_name() == "ArgumentMismatch" && what.ends_with("missing"))
+    what = what.substr(0, what.find(':')) + " needs a value";
+  return what + "; try '" + help + " --help'";
 }
 
 cli::exit_status parse_and_run(int argc, char const* const* argv, cli::console& io) {
   cli::settings_arguments settings;
   CLI::App app{about, "labels"};
   app.require_subcommand(1)->fallthrough();
-  app.footer(cli::settings_help() + "\n" + examples);
-  app.set_version_flag("--version", std::string{"labels "} + labelsBaseDllVersionStr());
-  app.add_option("--settings", settings.file, "Settings file, KEY = VALUE a line")->option_text("FILE");
-  app.add_option("--set", settings.pairs, "One setting, after those of the file; may be repeated")
+  app.set_help_flag("-h,--help", "Show this help");
+  app.set_version_flag("--version", std::string{"labels "} + labelsBaseDllVersionStr(), "Show the version");
+  app.add_option("--settings", settings.file, "File of settings, one KEY = VALUE per line")->option_text("FILE");
+  app.add_option("--set", settings.pairs, "One setting, applied after the file; may be repeated")
       ->option_text("KEY=VALUE")
       ->allow_extra_args(false);
+  app.get_formatter()->label("SUBCOMMAND", "COMMAND");
+  app.get_formatter()->label("Positionals", "Arguments");
+  app.footer(cli::settings_help() + "\n" + examples);
 
-  cli::verb_run run;
-  for (auto const& [name, purpose, declare] : verbs) {
-    auto& command = *app.add_subcommand(name, purpose);
-    command.footer("'labels --help' has examples and the options of all verbs.");
+  cli::command_run run;
+  for (auto const& [name, purpose, declare] : commands) {
+    auto& command = *app.add_subcommand(name, purpose)->group("Commands");
     command.parse_complete_callback([&run, chosen = declare(command)] { run = chosen; });
   }
 
@@ -91,11 +97,11 @@ cli::exit_status parse_and_run(int argc, char const* const* argv, cli::console& 
   } catch (CLI::CallForVersion const& version) {
     io.results.line(version.what());
     return cli::all_well;
-  } catch (CLI::ParseError const& wrong) {
-    io.errors.say(what_is_wrong(app, wrong) + "; try 'labels --help'");
+  } catch (CLI::ParseError const& error) {
+    io.say(what_is_wrong(app, error));
     return cli::failed;
   }
-  return cli::apply_settings(settings, io.errors) ? run(io) : cli::failed;
+  return cli::apply_settings(settings, io) ? run(io) : cli::failed;
 }
 
 }  // namespace
@@ -105,7 +111,7 @@ int main(int argc, char** argv) {
   try {
     return io.finish(parse_and_run(argc, argv, io));
   } catch (std::exception const& error) {
-    io.errors.say(error.what());
+    io.say(error.what());
     return io.finish(cli::failed);
   }
 }

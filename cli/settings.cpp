@@ -4,53 +4,52 @@
 #include <fstream>
 #include <system_error>
 
+#include "cli/text.h"
 #include "refhost/refhost.h"
 
 namespace cli {
 namespace {
 
-bool apply_file(std::string const& name, messages& errors) {
+bool apply_file(std::string const& name, console& io) {
   std::ifstream in{name, std::ios::binary};
   if (!in) {
-    errors.say("settings file " + quoted(name) + ": " + std::generic_category().message(errno));
+    io.say(refusal("--settings", name, std::generic_category().message(errno)));
     return false;
   }
-  auto const wrong = refhost::load_settings(in);
-  for (auto const& [line, message] : wrong)
-    errors.say("settings file " + quoted(name) + ": line " + std::to_string(line) + ": " + message);
-  return wrong.empty();
+  auto const errors = refhost::load_settings(in);
+  for (auto const& [line, message] : errors)
+    io.say(refusal("--settings", name, "line " + std::to_string(line) + ": " + message));
+  return errors.empty();
 }
 
-bool apply_pair(std::string const& pair, messages& errors) {
+bool apply_pair(std::string const& pair, console& io) {
   auto const equals = pair.find('=');
   if (equals == std::string::npos) {
-    errors.say("--set " + quoted(pair) + ": expected KEY=VALUE");
+    io.say(refusal("--set", pair, "expected KEY=VALUE; 'labels --help' lists the settings"));
     return false;
   }
-  auto const wrong = refhost::set_option(pair.substr(0, equals), pair.substr(equals + 1));
-  if (wrong) errors.say("--set " + quoted(pair) + ": " + *wrong);
-  return !wrong;
+  auto const error = refhost::set_option(pair.substr(0, equals), pair.substr(equals + 1));
+  if (error) io.say(refusal("--set", pair, *error));
+  return !error;
 }
 
 }  // namespace
 
-bool apply_settings(settings_arguments const& arguments, messages& errors) {
-  if (arguments.file && !apply_file(*arguments.file, errors)) return false;
-  bool all_right = true;
-  for (auto const& pair : arguments.pairs) all_right = apply_pair(pair, errors) && all_right;
-  return all_right;
+bool apply_settings(settings_arguments const& arguments, console& io) {
+  if (arguments.file && !apply_file(*arguments.file, io)) return false;
+  bool all_applied = true;
+  for (auto const& pair : arguments.pairs) all_applied = apply_pair(pair, io) && all_applied;
+  return all_applied;
 }
 
 std::string settings_help() {
   constexpr std::size_t column = 28;
   std::string help = "Settings:\n";
-  auto const add = [&](std::string key, std::string const& meaning, std::string const& expected) {
-    key.insert(0, 2, ' ');
-    key.resize(column, ' ');
-    help += key + meaning + "\n" + std::string(column, ' ') + expected + "\n";
+  auto const add = [&](std::string const& key, char const* meaning, char const* expected) {
+    help += padded("  " + key, column) + meaning + "\n" + padded("", column) + expected + "\n";
   };
   for (auto const& [key, meaning, expected] : refhost::setting_list()) add(key, meaning, expected);
-  add("config.KEY", "a configuration value", "for 50p_timecode_type and 60p_timecode_type: 1, 2 or 3");
+  add("config.KEY", "a configuration value", "1, 2 or 3 for 50p_timecode_type and 60p_timecode_type");
   return help;
 }
 

@@ -1,11 +1,11 @@
-// The host's settings, from the command line.
+// The host's settings, as the command line gives them.
 #pragma once
 
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "cli/messages.h"
+#include "cli/console.h"
 
 namespace cli {
 
@@ -14,10 +14,10 @@ struct settings_arguments {
   std::vector<std::string> pairs;  // for example "drop-frame=yes"
 };
 
-// The file first, then the pairs in order. False when anything is wrong, which is said.
-[[nodiscard]] bool apply_settings(settings_arguments const& arguments, messages& errors);
+// Applies the file, then the pairs in order. Reports every error; returns false if there was one.
+[[nodiscard]] bool apply_settings(settings_arguments const& arguments, console& io);
 
-// A line for each setting, for the help.
+// Returns the part of the help that lists the settings.
 [[nodiscard]] std::string settings_help();
 
 }  // namespace cli

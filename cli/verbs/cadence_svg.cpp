@@ -1,9 +1,11 @@
+// The picture that cadence --svg draws.
+
 #include <algorithm>
 #include <initializer_list>
 #include <string_view>
 #include <utility>
 
-#include "cli/cadence.h"
+#include "cli/verbs/cadence.h"
 
 namespace cli {
 namespace {
@@ -20,12 +22,12 @@ class svg {
     element("text", {{"x", n(x)}, {"y", n(y)}}, style, content);
   }
 
-  // Reads upwards.
+  // Text that runs upwards.
   void upright_text(int x, int y, std::string_view style, std::string_view content) {
     element("text", {{"transform", "translate(" + n(x) + ' ' + n(y) + ") rotate(-90)"}}, style, content);
   }
 
-  // From an edge above to an edge below.
+  // A filled shape between the edge of a frame above and that of a frame below.
   void link(int above, int above_width, int y_above, int below, int below_width, int y_below,
             std::string_view style) {
     element("path",
@@ -50,7 +52,7 @@ class svg {
       content_.append(">").append(escaped(content)).append("</").append(name).append(">\n");
   }
 
-  // Key numbers of 16 mm have an "&".
+  // Key numbers of 16 mm contain "&".
   static std::string escaped(std::string_view content) {
     std::string result;
     for (char const c : content) result += c == '&' ? "&amp;" : std::string(1, c);
@@ -78,7 +80,7 @@ constexpr char const* style_sheet =
     ".added{fill:#fff;stroke:#c62828;stroke-width:2;stroke-dasharray:5 3}\n"
     "</style>\n";
 
-// Pixels. A cycle is as long on both time lines.
+// Sizes in pixels. A cycle has the same length on both time lines.
 struct sizes {
   bool upright_labels;
   int film_width, video_width;
@@ -86,7 +88,7 @@ struct sizes {
   int label_height;
 
   static constexpr int margin = 24;
-  static constexpr int names = 64;  // of the time lines
+  static constexpr int names = 64;  // width of the names of the time lines
   static constexpr int title_height = 76;
   static constexpr int film_height = 76;
   static constexpr int link_height = 40;
@@ -111,7 +113,7 @@ class cadence_picture {
   [[nodiscard]] std::string draw();
 
  private:
-  // Where a frame of a time line stands, of so many frames a band.
+  // Returns where a frame of a time line is drawn. A frame is `width` wide, a cycle `cycle` frames long.
   struct place {
     int x, y;
   };
@@ -142,7 +144,7 @@ class cadence_picture {
   svg out_;
 };
 
-// A label over or under a frame, in the middle of it.
+// Draws a label above or below the middle of a frame.
 void cadence_picture::label(int x, int above, int below, bool is_above, std::string const& text) {
   if (!sizes_.upright_labels)
     out_.text(x, is_above ? above - 8 : below + 16, "label middle", text);

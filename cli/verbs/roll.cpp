@@ -1,14 +1,14 @@
-#include <CLI/CLI.hpp>
+// roll: medium-roll identifiers, and which fits in place of another.
+
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "cli/arguments.h"
-#include "cli/items.h"
-#include "cli/medium_roll.h"
-#include "cli/messages.h"
-#include "cli/verbs.h"
+#include "cli/input.h"
+#include "cli/names.h"
+#include "cli/verbs/commands.h"
 
 namespace cli {
 namespace {
@@ -21,7 +21,7 @@ struct arguments {
   [[nodiscard]] UserLabelType family() const noexcept { return ink ? User_ink : User_any; }
 };
 
-// The identifier, the name of its medium and the user text, for example "28,1", "out_24p" and "med?,anyGen".
+// The identifier, the name of its medium and the user text: "28,1", "out_24p" and "med?,anyGen".
 std::string described(MediumRollIdent const& ident) {
   char identifier[labelsbase::identifier_text_size];
   MediumRollId_to_string(identifier, ident);
@@ -31,12 +31,7 @@ std::string described(MediumRollIdent const& ident) {
 
 exit_status roll(arguments const& given, console& io) {
   MediumRollIdent asked;
-  if (given.asked) {
-    if (auto const wrong = read_medium_roll(*given.asked, given.family(), asked)) {
-      io.errors.say("--for " + cli::quoted(*given.asked) + ": " + *wrong);
-      return failed;
-    }
-  }
+  if (given.asked) asked = find_medium_roll("--for", *given.asked, given.family());
 
   return for_each_item(given.identifiers, io, [&](std::string_view text) -> problem {
     MediumRollIdent ident;
@@ -50,13 +45,12 @@ exit_status roll(arguments const& given, console& io) {
 
 }  // namespace
 
-verb_run declare_roll(CLI::App& verb) {
+command_run commands::declare_roll(CLI::App& command) {
   auto const given = std::make_shared<arguments>();
-  add_operands(verb, "IDENTIFIER", "Medium and generation, for example 28,1 or out_24p,1", given->identifiers);
-  verb.add_option("--for", given->asked, "Say whether each will do where this one is asked for")
-      ->option_text("IDENTIFIER")
-      ->allow_extra_args(false);
-  verb.add_flag("--ink", given->ink, "Ink numbers: a medium without a generation stands for an ink-numbered roll");
+  add_operands(command, "IDENTIFIER", "Medium and generation, for example 28,1 or out_24p,1", given->identifiers);
+  add_option(command, "--for", "IDENTIFIER", given->asked, "Show whether each can stand in for IDENTIFIER");
+  add_flag(command, "--ink", given->ink, "Read each as for ink numbers: without a generation, it is an ink roll");
+  add_examples(command, {"roll 28,1 out_24p src_24p,2", "roll --for 29,1 28,1 out_24i"});
   return [given](console& io) { return roll(*given, io); };
 }
 

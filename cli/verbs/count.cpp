@@ -1,14 +1,13 @@
-#include <CLI/CLI.hpp>
+// count: labels to frame counts and back.
+
 #include <memory>
 #include <vector>
 
 #include "cli/arguments.h"
-#include "cli/counted_label.h"
-#include "cli/items.h"
-#include "cli/label_type.h"
-#include "cli/pulldown.h"
-#include "cli/verbs.h"
-#include "refhost/whole_number.h"
+#include "cli/counting.h"
+#include "cli/input.h"
+#include "cli/text.h"
+#include "cli/verbs/commands.h"
 
 namespace cli {
 namespace {
@@ -18,8 +17,8 @@ struct arguments {
   std::vector<std::string> items;
   pulldown_arguments across;
   std::string edit = "video";
-  std::optional<int> frames_per_key;
-  int key_phase = 1;
+  std::optional<std::string> frames_per_key;
+  std::string key_phase = "1";
   bool back = false;
   bool phases = false;
 };
@@ -49,7 +48,7 @@ exit_status counting::count(std::vector<std::string> const& labels, console& io)
     int found_key_phase = key_phase;
     if (!label_to_frames(digits, key_phase, &found_key_phase, across.phase, &found_phase, &frames, label.label(),
                          label.drop(), across.transfer, edit, label.frames_per_key()))
-      return "has no frame that can be counted";
+      return "cannot be counted across this transfer";
 
     auto line = std::to_string(frames);
     if (phases && found_phase >= 0) line += "\tphase " + std::to_string(found_phase);
@@ -60,7 +59,7 @@ exit_status counting::count(std::vector<std::string> const& labels, console& io)
 
 exit_status counting::count_back(std::vector<std::string> const& frames, console& io) const {
   return for_each_item(frames, io, [&](std::string_view text) -> problem {
-    auto const frame = refhost::whole_number(text);
+    auto const frame = whole_number(text);
     if (!frame) return "expected a frame, a whole number; the first frame is 1";
 
     counted_label::digits digits;
@@ -74,50 +73,43 @@ exit_status counting::count_back(std::vector<std::string> const& frames, console
   });
 }
 
+edit_type find_edit(std::string const& text) {
+  if (text == "video") return Edit_video;
+  if (text == "film") return Edit_film;
+  refuse("--edit", text, "expected video or film");
+}
+
 exit_status count(arguments const& given, console& io) {
-  auto const type = find_label_type(given.type, io.errors);
-  if (!type) return failed;
-  auto label = counted_label::of(*type, io.errors);
-  auto const across = find_pulldown(given.across, io.errors);
-  if (!label || !across) return failed;
+  counting asked{find_counted_label("TYPE", given.type), find_pulldown(given.across), find_edit(given.edit),
+                 number_in("--key-phase", given.key_phase, 1, 3), given.phases};
   if (given.frames_per_key) {
-    if (!label->has_keys() || label->has_key_phase()) {
-      io.errors.say("--frames-per-key: there is no such choice for " + given.type + "; leave it out");
-      return failed;
-    }
-    label->set_frames_per_key(*given.frames_per_key);
+    if (!asked.label.has_keys() || asked.label.has_key_phase())
+      refuse("--frames-per-key", *given.frames_per_key,
+             "keys of " + given.type + " have a fixed length, if any; leave out --frames-per-key");
+    asked.label.set_frames_per_key(number_in("--frames-per-key", *given.frames_per_key, 1, 100));
   }
-  counting const asked{*label, *across, given.edit == "film" ? Edit_film : Edit_video, given.key_phase,
-                       given.phases};
   return given.back ? asked.count_back(given.items, io) : asked.count(given.items, io);
 }
 
 }  // namespace
 
-verb_run declare_count(CLI::App& verb) {
+command_run commands::declare_count(CLI::App& command) {
   auto const given = std::make_shared<arguments>();
-  add_type(verb, given->type);
-  add_operands(verb, "LABEL", "Labels, for example 01:00:00:00 or 1234+07; with --back, frames", given->items);
-  verb.add_flag("--back", given->back, "Turn frames into labels");
-  add_pulldown(verb, given->across, "none");
-  verb.add_option("--edit", given->edit, "What is counted: video frames, or film frames")
-      ->option_text("video|film [video]")
-      ->allow_extra_args(false)
-      ->check(CLI::IsMember({"video", "film"}));
-  verb.add_option("--frames-per-key", given->frames_per_key, "Frames of a key, where not those of the type's film")
-      ->option_text("N")
-      ->allow_extra_args(false)
-      ->check(CLI::Range(1, 100));
-  verb.add_option("--key-phase", given->key_phase,
-                  "Of film at 3 perforations a frame: 3 for a key of 22 frames, then 1 and 2 for those of 21. With"
-                  " --back, that of key 0")
-      ->option_text("1|2|3 [1]")
-      ->allow_extra_args(false)
-      ->check(CLI::Range(1, 3));
-  verb.add_flag(
-      "--phases", given->phases,
-      "Show what was found beside the count: the phase of the pulldown at this frame, and the key phase of"
-      " the first key, or with --back of this one");
+  add_type(command, given->type);
+  add_operands(command, "LABEL", "Labels, 01:00:00:00 or 1234+07. With --back, frames; the first frame is 1",
+               given->items);
+  add_flag(command, "--back", given->back, "Convert frames to labels");
+  add_pulldown(command, given->across, "none");
+  add_option(command, "--edit", "video|film [video]", given->edit, "Count video frames or film frames");
+  add_option(command, "--frames-per-key", "N", given->frames_per_key,
+             "Frames of a key, 1 to 100, if not those of the type");
+  add_option(command, "--key-phase", "1|2|3 [1]", given->key_phase,
+             "Phase of the key at 3 perforations a frame: 3 for a key of 22 frames, 1 and 2 for the two keys of 21"
+             " that follow. With --back, the phase of key 0");
+  add_flag(command, "--phases", given->phases,
+           "Show phases too: that of the pulldown at the frame, and that of key 0 or, with --back, of the key");
+  add_examples(command, {"count 30f-drop --transfer 2:3 --edit film '01:00:00;00'", "count F35 1234+07",
+                         "count 25f --back 90001"});
   return [given](console& io) { return count(*given, io); };
 }
 
