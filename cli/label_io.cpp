@@ -32,26 +32,24 @@ problem read_whole(label_kind const& kind, std::string_view text, std::string_vi
   return std::nullopt;
 }
 
-struct sample_range {
-  std::int64_t first, last;
-};
-
-// Returns the samples that film labels can express. Past their last count, labels start again at 0, but only once;
-// feet have a digit more than `count_digits` and run below zero, keys and ink numbers begin at 0.
-sample_range samples_with_labels(labelsbase::label_facts const& facts) noexcept {
+// Past their last count, film labels start again at 0, but only once. Feet have a digit more than `count_digits`
+// and run below zero; keys and ink numbers begin at 0.
+constexpr sample_range range_of(labelsbase::label_facts const& facts) noexcept {
   constexpr sample_range every{std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()};
   if (facts.family != User_keycode && facts.family != User_ink && facts.family != User_feet) return every;
 
-  // At 3 perforations a frame, frame 0 begins before its key or foot, and foot 100000 does not start again at 0.
   auto const& gauge = facts.film.gauge;
-  int const before_key = gauge.has_whole_frames() ? 0 : gauge.perfs_per_frame() - 1;
   bool const is_feet = facts.family == User_feet;
   std::int64_t counts = is_feet ? 10 : 1;
   for (int digit = 0; digit < facts.film.count_digits; ++digit) counts *= 10;
-  counts = 2 * counts + (is_feet && !gauge.has_whole_frames());
+  auto const run = counts * gauge.perfs_per_count();
 
-  auto const last = counts * gauge.perfs_per_count() - 1 - before_key;
-  return {is_feet ? -last : -before_key, last};
+  // At 3 perforations a frame, frame 0 begins before its key or foot, and foot 100000 does not start again at 0.
+  bool const is_whole = gauge.has_whole_frames();
+  int const before_count = is_whole ? 0 : gauge.perfs_per_frame() - 1;
+  auto const last = 2 * run - 1 - before_count + (is_feet && !is_whole ? gauge.perfs_per_count() : 0);
+  if (!is_feet) return {-before_count, last};
+  return {-last, last, is_whole ? run : 0, gauge.perfs_per_frame()};
 }
 
 }  // namespace
@@ -105,24 +103,27 @@ bool label_reader::lacks_prefix(std::string_view text) const noexcept {
   return !text.starts_with(kind_.prefix) && 2 * length < 2 * count_digits_ + prefix_length_;
 }
 
-label_writer::label_writer(label_kind const& kind) : negative_{kind.type, 0}, positive_{kind.type, 0} {
+label_writer::label_writer(label_kind const& kind)
+    : negative_{kind.type, 0}, positive_{kind.type, 0}, range_{range_of(labelsbase::facts_of(kind.type))} {
   positive_.removePadding();
   set_prefix(negative_, kind.prefix);
   set_prefix(positive_, kind.prefix);
-  auto const [first, last] = samples_with_labels(labelsbase::facts_of(kind.type));
-  first_ = first;
-  last_ = last;
 }
 
 problem label_writer::write(int sample, std::string_view& label) {
-  if ((sample < first_ || sample > last_) && !labelsbase::is_special_sample(sample))
-    return std::string{"has no label; "} + positive_.cvt()->type_str() + " covers samples " +
-           std::to_string(first_) + " to " + std::to_string(last_);
+  bool const has_label = sample >= range_.first && sample <= range_.last && !range_.is_signed_zero(sample);
+  if (!has_label && !labelsbase::is_special_sample(sample)) return missing_label(sample);
   auto& point = sample < 0 ? negative_ : positive_;
   point.sample = sample;
   label = point.get_string();
   if (label.starts_with(' ')) label.remove_prefix(1);  // 3-perf feet always have the sign column
   return std::nullopt;
+}
+
+problem label_writer::missing_label(int sample) const {
+  if (range_.is_signed_zero(sample)) return "has no label, since \"-\" does not come before 0000+00";
+  return std::string{"has no label; "} + positive_.cvt()->type_str() + " covers samples " +
+         std::to_string(range_.first) + " to " + std::to_string(range_.last);
 }
 
 void set_prefix(LabelPoint& point, std::string_view prefix) noexcept {

@@ -59,6 +59,20 @@ class label_reader {
   std::string whole_;  // prefix and label
 };
 
+// The samples that labels of a type can express.
+struct sample_range {
+  std::int64_t first, last;
+
+  // Feet of whole frames start again at 0 after this many samples, and "-" does not come before 0000+00: the first
+  // frame below each start has no label. 0 for other types.
+  std::int64_t signed_run = 0;
+  int signed_zero = 0;  // samples of a frame
+
+  [[nodiscard]] constexpr bool is_signed_zero(std::int64_t sample) const noexcept {
+    return sample < 0 && signed_run > 0 && -sample % signed_run < signed_zero;
+  }
+};
+
 // Writes samples as labels. Positive labels have no sign column.
 class label_writer {
  public:
@@ -68,10 +82,11 @@ class label_writer {
   [[nodiscard]] problem write(int sample, std::string_view& label);
 
  private:
+  [[nodiscard]] problem missing_label(int sample) const;
+
   LabelPoint negative_;
   LabelPoint positive_;
-  std::int64_t first_;  // samples that have a label
-  std::int64_t last_;
+  sample_range range_;
 };
 
 // Copies a prefix into the point; the part that does not fit is left out.

@@ -101,8 +101,13 @@ struct sizes {
 };
 
 constexpr sizes sizes_of(pulldown const& across) noexcept {
-  if (across.film_cycle == 4) return {false, 115, 92, 2, 22};
-  return {true, 50, 48, 1, 92};
+  bool const is_short = across.film_cycle == 4;
+  int const cycle_width = is_short ? 460 : 1'200;
+  return {.upright_labels = !is_short,
+          .film_width = cycle_width / across.film_cycle,
+          .video_width = cycle_width / across.video_cycle,
+          .cycles_per_band = is_short ? 2 : 1,
+          .label_height = is_short ? 22 : 92};
 }
 
 class cadence_picture {
