@@ -103,6 +103,10 @@ bool label_reader::lacks_prefix(std::string_view text) const noexcept {
   return !text.starts_with(kind_.prefix) && 2 * length < 2 * count_digits_ + prefix_length_;
 }
 
+bool sample_range::is_negative_zero(std::int64_t sample) const noexcept {
+  return sample < 0 && feet_run > 0 && -sample % feet_run < frame_samples;
+}
+
 label_writer::label_writer(label_kind const& kind)
     : negative_{kind.type, 0}, positive_{kind.type, 0}, range_{range_of(labelsbase::facts_of(kind.type))} {
   positive_.removePadding();
@@ -111,7 +115,7 @@ label_writer::label_writer(label_kind const& kind)
 }
 
 problem label_writer::write(int sample, std::string_view& label) {
-  bool const has_label = sample >= range_.first && sample <= range_.last && !range_.is_signed_zero(sample);
+  bool const has_label = sample >= range_.first && sample <= range_.last && !range_.is_negative_zero(sample);
   if (!has_label && !labelsbase::is_special_sample(sample)) return missing_label(sample);
   auto& point = sample < 0 ? negative_ : positive_;
   point.sample = sample;
@@ -121,7 +125,7 @@ problem label_writer::write(int sample, std::string_view& label) {
 }
 
 problem label_writer::missing_label(int sample) const {
-  if (range_.is_signed_zero(sample)) return "has no label, since \"-\" does not come before 0000+00";
+  if (range_.is_negative_zero(sample)) return "has no label, since it would be -0000+00, and zero has no sign";
   return std::string{"has no label; "} + positive_.cvt()->type_str() + " covers samples " +
          std::to_string(range_.first) + " to " + std::to_string(range_.last);
 }

@@ -62,15 +62,11 @@ class label_reader {
 // The samples that labels of a type can express.
 struct sample_range {
   std::int64_t first, last;
+  std::int64_t feet_run = 0;  // samples after which feet of whole frames start again at 0; 0 for other types
+  int frame_samples = 1;      // samples of a frame
 
-  // Feet of whole frames start again at 0 after this many samples, and "-" does not come before 0000+00: the first
-  // frame below each start has no label. 0 for other types.
-  std::int64_t signed_run = 0;
-  int signed_zero = 0;  // samples of a frame
-
-  [[nodiscard]] constexpr bool is_signed_zero(std::int64_t sample) const noexcept {
-    return sample < 0 && signed_run > 0 && -sample % signed_run < signed_zero;
-  }
+  // Whether the label would be "-0000+00": zero has no sign.
+  [[nodiscard]] bool is_negative_zero(std::int64_t sample) const noexcept;
 };
 
 // Writes samples as labels. Positive labels have no sign column.

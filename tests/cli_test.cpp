@@ -59,7 +59,7 @@ TEST_F(Tool, ShowsEveryLabelOfFilm) {
       {"labels show 16 -- -12800062 -12800061 12800061 12800062", "-100000+21.3\n100000+21.3\n",
        "-12800061 to 12800061\n", 1},
       {"labels show 14 -- -6400004 -6400003 -6400000 -6399999 -4 -3 -1", "-0000+01\n-99999+15\n-0000+01\n",
-       "argument 7: \"-1\": has no label, since \"-\" does not come before 0000+00\n", 1},
+       "argument 7: \"-1\": has no label, since it would be -0000+00", 1},
       {"labels show I16 -- -1 399999 400000", "XXXX9999+19\n", "0 to 399999\n", 1},
       {"labels show 30 -- -2147483648 2147483647", "-2147483648\n2147483647\n"},
   });
@@ -134,8 +134,8 @@ TEST_F(Tool, ExplainsWrongUsage) {
     expect({{("labels read '" + std::string{type} + "' 1").c_str(), "", "\": unknown label type; expected", 2}});
   expect(
       {{"labels --help | awk '/^Commands:/ {on = 1; next} /^$/ {on = 0} on {print $1}' | while read -r command;"
-        " do labels $command --help | tail -n 1; done | uniq -c | tr -s ' '",
-        " 13 Run 'labels --help' for settings and exit codes.\n"}});
+        " do labels $command --help | tail -n 1; done | sort -u",
+        "Run 'labels --help' for settings and exit codes.\n"}});
 }
 
 TEST_F(Tool, ReportsInputAndOutputThatFail) {
