@@ -57,11 +57,10 @@ struct timecode_facts {
 
 // How a film type counts. Samples are perforations; for film frames they are frames.
 struct film_facts {
-  film_gauge gauge{};     // perforations of a frame and of a key, foot or ink number
-  char separator = '+';   // before the frames
-  int prefix_length = 0;  // characters of the prefix
-  int count_digits =
-      0;  // digits of the key or ink number; the fewest digits of feet and film frames; 0 for others
+  film_gauge gauge{};         // perforations of a frame and of a key, foot or ink number
+  char separator = '+';       // before the frames
+  int prefix_length = 0;      // characters of the prefix
+  int count_digits = 0;       // of the key or ink number; the fewest of feet and film frames; 0 for all other types
   bool reports_perfs = true;  // whether perfs_per_keyKode() reports the perforations of a key, or 1
 
   // Whether labels end in the perforation within the frame, 1 to 3.
@@ -82,13 +81,14 @@ struct film_siblings {
   label_t key = null_label_t;
 };
 
-// What the labels of a type count.
+// What the labels of a type count: timecode or film, or neither for the bases of the families.
 struct label_form {
   UserLabelType family = User_none;
   timecode_facts timecode{};
   film_facts film{};
 };
 
+// Everything about one label type.
 struct label_facts {
   label_t type;
   char const* name;  // of the converter class; "" for types without one
@@ -129,9 +129,10 @@ struct label_facts {
   }
 };
 
-// What the rows below are made of.
+// The forms that the rows of the table name.
 namespace forms {
 
+// A type without labels of its own.
 [[nodiscard]] consteval label_form base(UserLabelType family) { return {.family = family}; }
 
 [[nodiscard]] consteval label_form timecode(int frames_per_second, char separator = '.') {
@@ -146,18 +147,20 @@ namespace forms {
   return form;
 }
 
+// A host's setting of this name may slow the count: two fields a frame, or half as many frames.
 [[nodiscard]] consteval label_form slowed_by(char const* setting, int slow_frames_per_second, label_form form) {
   form.timecode.setting = setting;
   form.timecode.slow_frames_per_second = slow_frames_per_second;
   return form;
 }
 
+// Key numbers have 12 characters of prefix and count.
 [[nodiscard]] consteval label_form keys(film_gauge const& gauge, int digits, char separator = '+') {
   return {.family = User_keycode,
           .film = {.gauge = gauge, .separator = separator, .prefix_length = 12 - digits, .count_digits = digits}};
 }
 
-// Deliberate: these report 1 perforation a key.
+// Deliberate: these report 1 perforation a key, which hosts rely on.
 [[nodiscard]] consteval label_form unreported_keys(film_gauge const& gauge, int digits) {
   auto form = keys(gauge, digits);
   form.film.reports_perfs = false;
