@@ -60,7 +60,7 @@ struct film_facts {
   film_gauge gauge{};         // perforations of a frame and of a key, foot or ink number
   char separator = '+';       // before the frames
   int prefix_length = 0;      // characters of the prefix
-  int count_digits = 0;       // of the key or ink number; the fewest of feet and film frames; 0 for all other types
+  int count_digits = 0;       // of the key or ink number; the fewest of feet and frames; 0 for others
   bool reports_perfs = true;  // whether perfs_per_keyKode() reports the perforations of a key, or 1
 
   // Whether labels end in the perforation within the frame, 1 to 3.
