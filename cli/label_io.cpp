@@ -6,10 +6,10 @@
 
 #include "cli/arguments.h"
 #include "cli/console.h"
+#include "cli/film.h"
 #include "cli/names.h"
 #include "cli/text.h"
 #include "labelcheck/label_check.h"
-#include "labelsbase/labelcvt/label_facts.h"
 
 namespace cli {
 namespace {
@@ -32,24 +32,25 @@ problem read_whole(label_kind const& kind, std::string_view text, std::string_vi
   return std::nullopt;
 }
 
-// Past their last count, film labels start again at 0, but only once. Feet have a digit more than `count_digits`
-// and run below zero; keys and ink numbers begin at 0.
+// Film labels run through their count twice: after the last one they start again at 0, but only once. Feet may be
+// negative; keys and ink numbers begin at 0.
 constexpr sample_range range_of(labelsbase::label_facts const& facts) noexcept {
-  constexpr sample_range every{std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()};
-  if (facts.family != User_keycode && facts.family != User_ink && facts.family != User_feet) return every;
+  if (!counts_perforations(facts))
+    return {std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()};
 
+  auto const run = perfs_per_run(facts);
   auto const& gauge = facts.film.gauge;
   bool const is_feet = facts.family == User_feet;
-  std::int64_t counts = is_feet ? 10 : 1;
-  for (int digit = 0; digit < facts.film.count_digits; ++digit) counts *= 10;
-  auto const run = counts * gauge.perfs_per_count();
+  if (gauge.has_whole_frames()) {
+    auto const last = 2 * run - 1;
+    return is_feet ? sample_range{-last, last, run, gauge.perfs_per_frame()} : sample_range{0, last};
+  }
 
   // At 3 perforations a frame, frame 0 begins before its key or foot, and foot 100000 does not start again at 0.
-  bool const is_whole = gauge.has_whole_frames();
-  int const before_count = is_whole ? 0 : gauge.perfs_per_frame() - 1;
-  auto const last = 2 * run - 1 - before_count + (is_feet && !is_whole ? gauge.perfs_per_count() : 0);
-  if (!is_feet) return {-before_count, last};
-  return {-last, last, is_whole ? run : 0, gauge.perfs_per_frame()};
+  int const before_count = gauge.perfs_per_frame() - 1;
+  auto const last = 2 * run - 1 - before_count;
+  auto const last_feet = last + gauge.perfs_per_count();
+  return is_feet ? sample_range{-last_feet, last_feet} : sample_range{-before_count, last};
 }
 
 }  // namespace

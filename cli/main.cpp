@@ -56,7 +56,8 @@ std::string what_is_wrong(CLI::App const& app, CLI::ParseError const& error) {
   auto const words = app.remaining(true);
   bool const is_word_first = !words.empty() && !words.front().starts_with('-');
   if (chosen.empty() && is_word_first)
-    return "unknown command " + cli::in_quotes(words.front()) + "; " + expected_commands();
+    return "unknown command " + cli::in_quotes(words.front()) + "; " + expected_commands() +
+           "; try 'labels --help'";
 
   std::string const help = chosen.empty() ? "labels" : "labels " + chosen.front()->get_name();
   std::string what = error.what();

@@ -5,11 +5,11 @@
 #include <memory>
 
 #include "cli/arguments.h"
+#include "cli/film.h"
 #include "cli/input.h"
 #include "cli/label_io.h"
 #include "cli/text.h"
 #include "cli/verbs/commands.h"
-#include "labelsbase/labelcvt/label_facts.h"
 
 namespace cli {
 namespace {
@@ -25,22 +25,16 @@ constexpr bool is_sample(std::int64_t value) noexcept {
   return value >= std::numeric_limits<std::int32_t>::min() && value <= std::numeric_limits<std::int32_t>::max();
 }
 
-bool counts_perforations(labelsbase::label_facts const& facts) noexcept {
-  return facts.family == User_keycode || facts.family == User_ink || facts.family == User_feet;
-}
-
-// Returns how many samples a number that the user gives or gets stands for.
+// Returns the samples of a frame, or 1 where the user counts perforations.
 int unit_of(arguments const& given, labelsbase::label_facts const& facts) noexcept {
   return given.perfs ? 1 : facts.samples_per_frame();
 }
 
 // Whether the sum wrapped by whole runs of the count, if at all. Key numbers at 3 perforations a frame wrap as if
-// a key had 22 frames, which no film has, so a wrapped sum names another frame than the one the film goes on with.
-bool wraps_by_whole_counts(labelsbase::label_facts const& facts, int sum, std::int64_t unwrapped) noexcept {
+// every key had 22 frames, which no film has. So a wrapped sum is not the frame that comes next on the film.
+bool wraps_by_whole_runs(labelsbase::label_facts const& facts, int sum, std::int64_t unwrapped) noexcept {
   if (facts.film.prefix_length == 0 || sum == unwrapped) return true;
-  std::int64_t perfs = facts.film.gauge.perfs_per_count();
-  for (int digits = facts.film.count_digits; digits > 0; --digits) perfs *= 10;
-  return (sum - unwrapped) % perfs == 0;
+  return (sum - unwrapped) % perfs_per_run(facts) == 0;
 }
 
 exit_status add(arguments const& given, label_kind const& kind, LabelPoint const& start, console& io) {
@@ -58,7 +52,7 @@ exit_status add(arguments const& given, label_kind const& kind, LabelPoint const
     LabelPoint distance{kind.type, 0};
     distance.sample = static_cast<int>(samples);
     int const sum = (start + distance).sample;
-    if (!wraps_by_whole_counts(facts, sum, start.sample + samples))
+    if (!wraps_by_whole_runs(facts, sum, start.sample + samples))
       return "leads beyond the first or last key, where the labels do not go on";
 
     std::string_view label;

@@ -84,8 +84,10 @@ exit_status count(arguments const& given, console& io) {
                  number_in("--key-phase", given.key_phase, 1, 3), given.phases};
   if (given.frames_per_key) {
     if (!asked.label.has_keys() || asked.label.has_key_phase())
-      refuse("--frames-per-key", *given.frames_per_key,
-             "keys of " + given.type + " have a fixed length, if any; leave out --frames-per-key");
+      refuse(
+          "--frames-per-key", *given.frames_per_key,
+          std::string{asked.label.has_keys() ? "the key phase sets the frames of a key" : "timecode has no keys"} +
+              "; leave out --frames-per-key");
     asked.label.set_frames_per_key(number_in("--frames-per-key", *given.frames_per_key, 1, 100));
   }
   return given.back ? asked.count_back(given.items, io) : asked.count(given.items, io);

@@ -7,10 +7,10 @@
 #include <vector>
 
 #include "cli/arguments.h"
+#include "cli/film.h"
 #include "cli/names.h"
 #include "cli/verbs/commands.h"
 #include "labelsbase/MediumRoll.h"
-#include "labelsbase/labelcvt/label_facts.h"
 #include "labelsbase/uiflabels.h"
 
 namespace cli {
@@ -51,7 +51,7 @@ void write_table(std::vector<column> const& columns, std::vector<row> const& row
 row row_of(labelsbase::label_facts const& facts) {
   auto& converter = *get_static_label_cvt(facts.type);
   bool const is_timecode = facts.is_timecode();
-  bool const has_perfs = facts.is_film() && facts.family != User_film_frames;
+  bool const has_perfs = facts.is_film() && counts_perforations(facts);
   auto const& gauge = facts.film.gauge;
   auto const number = [](bool applies, int value) { return applies ? std::to_string(value) : "-"; };
   return {std::to_string(facts.type),
