@@ -108,7 +108,7 @@ TEST(PlusFrames, MovesThePhaseRoundTheCycle) {
   EXPECT_EQ(video_frames_plus_frames(INT_MIN, 0, -1, &sum, &phase, Transfer_24_to_25), 0);
   EXPECT_EQ(video_frames_plus_frames(1, 0, 1, &sum, nullptr, Transfer_24_to_25), 0);
   EXPECT_EQ(sum, 99);
-  for (auto transfer : {Transfer_none, Transfer_one_to_one, Transfer_project_rate, static_cast<transfer_type>(-5)})
+  for (auto transfer : {Transfer_none, Transfer_one_to_one, Transfer_project_rate, transfer_type{-5}})
     EXPECT_EQ(video_frames_plus_frames(40, 3, 2, &sum, &phase, transfer) * sum, 42);
   EXPECT_EQ(phase, 99);
 }

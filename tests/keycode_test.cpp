@@ -9,7 +9,7 @@ namespace {
 template <typename Check>
 void for_perforations(bool three_perf, Check check) {
   for (int t = 0; t < numLabelCvts; ++t) {
-    LabelPoint point{static_cast<label_t>(t), 0};
+    LabelPoint point{label_t{t}, 0};
     auto& cvt = *point.cvt();
     if (cvt.UserType() != User_keycode || (cvt.samples_per_unit() == 3) != three_perf) continue;
     SCOPED_TRACE(cvt.type_str());

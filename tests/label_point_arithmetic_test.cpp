@@ -77,20 +77,15 @@ TEST(CountLength, ReadsNothingBehindTheEndOfThePrefix) {
 }
 
 TEST(CountLength, ChangesNothingOutsideItsFamily) {
-  // clang-format off
-  struct { label_t from, to; } const cases[] = {
-      {keycode_35_label_4_t, keycode_35_label_t},  // one length
-      {keycode_35_label_t, keycode_16_label_6_t},          {keycode_352_label_t, keycode_35_label_6_t},
-      {pal_label_t, keycode_35_label_6_t},                 {ink_35_label_t, keycode_35_label_6_t},
-      {keycode_35_label_t, pal_label_t},                   {keycode_35_label_t, static_cast<label_t>(-7)},
-      {keycode_35_label_t, static_cast<label_t>(INT_MAX)},
-  };
-  // clang-format on
-  for (auto const& c : cases) {
-    LabelPoint point = key(c.from, 100, "KJ123456");
+  std::pair<label_t, label_t> const cases[] = {{keycode_35_label_4_t, keycode_35_label_t},  // one length
+                                               {keycode_35_label_t, keycode_16_label_6_t},
+                                               {ink_35_label_t, keycode_35_label_6_t},
+                                               {keycode_35_label_t, label_t{INT_MAX}}};
+  for (auto const& [from, to] : cases) {
+    LabelPoint point = key(from, 100, "KJ123456");
     point.label_template.set("kept");
     LabelPoint const before = point;
-    point.modify_type(c.to);
+    point.modify_type(to);
     EXPECT_TRUE(point == before);
     EXPECT_STREQ(point.label_template.text(), "kept");
   }

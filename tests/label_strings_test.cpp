@@ -43,14 +43,14 @@ TEST(LabelStrings, CountAsTheirClassDoes) {
   };
   // clang-format on
   for (int number = -5; number <= 60; ++number) {
-    auto const label = static_cast<label_type>(number);
+    auto const label = label_type{number};
     auto const* const known =
         std::ranges::find_if(classes, [&](auto const& c) { return c.labels.contains(number); });
     bool const is_known = known != std::end(classes);
     EXPECT_EQ(answers(label, Edit_film), is_known ? known->film : refused) << number;
     EXPECT_EQ(answers(label, Edit_video), is_known ? known->video : refused) << number;
     if (number == Edit_film || number == Edit_video) continue;
-    auto const edit = static_cast<edit_type>(number);
+    auto const edit = edit_type{number};
     EXPECT_EQ(answers(Label_timecode_25, edit), refused) << number;
     int frame = 99, phase_out = 99;
     EXPECT_EQ(frames_plus_frames(1, phase, 1, &frame, &phase_out, transfer, edit), 0);
@@ -91,8 +91,8 @@ TEST(LabelStrings, MoveOnByFrames) {
     char text[] = "before!!";
     int key_out = 99, phase_out = 99;
     EXPECT_EQ(label_plus_frames(text, &key_out, &phase_out, in.data(), c.key_phase, c.phase, c.count,
-                                static_cast<label_type>(c.label), drop, per_key, digits,
-                                static_cast<transfer_type>(c.transfer), static_cast<edit_type>(c.edit)),
+                                label_type{c.label}, drop, per_key, digits, transfer_type{c.transfer},
+                                edit_type{c.edit}),
               c.status)
         << c.label << ' ' << c.text;
     EXPECT_STREQ(text, c.text_out) << c.label << ' ' << c.text;
@@ -104,8 +104,8 @@ TEST(LabelStrings, MoveOnByFrames) {
 TEST(LabelStrings, MoveOnByTime) {
   EXPECT_EQ(get_frame_rate(Material_25, Edit_film), 24.0);
   EXPECT_DOUBLE_EQ(get_frame_rate(Material_29_97, Edit_video), 29.97002997002997);
-  EXPECT_EQ(get_frame_rate(Material_30, static_cast<edit_type>(9)), 30.0);
-  EXPECT_EQ(get_frame_rate(static_cast<material_type>(-9), Edit_video), 25.0);
+  EXPECT_EQ(get_frame_rate(Material_30, edit_type{9}), 30.0);
+  EXPECT_EQ(get_frame_rate(material_type{-9}, Edit_video), 25.0);
 
   constexpr double infinity = std::numeric_limits<double>::infinity();
   struct {

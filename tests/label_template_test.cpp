@@ -2,44 +2,27 @@
 
 namespace {
 
-LabelTemplate shaped(std::string const& text) { return LabelTemplate{{text.data(), text.size()}}; }
-
-// The rule of what may be typed, read once more and on its own: for every template character, the characters that
-// it takes as text, and whether it separates.
-struct position_rule {
-  std::string taken;
-  bool separates;
-};
-
-std::string from_to(char first, char last) {
-  std::string all;
-  for (int c = first; c <= last; ++c) all += static_cast<char>(c);
-  return all;
-}
-
-position_rule rule_of(char shape) {
-  std::string const no_separators = " ~";
-  if (shape == '?') return {from_to('!', '~'), false};
-  if (shape == '-') return {"+- ", false};
-  if (std::string{"0123456789"}.find(shape) != std::string::npos) return {from_to('0', shape), false};
-  bool const upper = shape >= 'A' && shape <= 'Z';
-  bool const lower = shape >= 'a' && shape <= 'z';
-  if (upper || lower) return {from_to('A', shape), false};
-  return {"", no_separators.find(shape) == std::string::npos};
-}
-
-TEST(LabelTemplate, AnswersEveryCharacterAtEveryShapeByTheRule) {
-  for (int shape = 1; shape < 256; ++shape) {
-    std::string const text(3, static_cast<char>(shape));
-    auto const tested = shaped(text);
-    auto const rule = rule_of(static_cast<char>(shape));
-    for (unsigned pos = 0; pos < 5; ++pos) {
-      bool const inside = pos < 3;
-      EXPECT_EQ(tested.isAtSeparator(pos), inside && rule.separates) << shape << " at " << pos;
+// All that may be typed at each kind of character, and the kinds that separate.
+TEST(LabelTemplate, TakesWhatItsCharactersStandFor) {
+  std::string visible, capitals = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+  for (char c = '!'; c <= '~'; ++c) visible += c;
+  std::string const to_c = capitals + "[\\]^_`abc";
+  // clang-format off
+  struct { char shape; std::string typed; bool separates; } const cases[] = {
+      {'?', visible, false},      {'-', "+- ", false}, {'0', "0", false},   {'5', "012345", false},
+      {'9', "0123456789", false}, {'A', "A", false},   {'C', "ABC", false}, {'Z', capitals, false},
+      {'c', to_c, false},         {' ', "", false},    {'~', "", false},    {'+', "", true},
+      {':', "", true},            {'.', "", true},     {'@', "", true},     {'\xE9', "", true},
+  };
+  // clang-format on
+  for (auto const& c : cases) {
+    LabelTemplate const shape{{std::string(3, c.shape).c_str(), 3}};
+    for (unsigned pos : {0U, 2U, 3U, 4U}) {
+      EXPECT_EQ(shape.isAtSeparator(pos), pos < 3 && c.separates) << c.shape << " at " << pos;
       for (int typed = 0; typed < 256; ++typed) {
-        char const c = static_cast<char>(typed);
-        bool const taken = inside && c != 0 && rule.taken.find(c) != std::string::npos;
-        ASSERT_EQ(tested.isValidChar(c, pos), taken) << "shape " << shape << " typed " << typed << " at " << pos;
+        bool const taken = pos < 3 && typed != 0 && c.typed.find(static_cast<char>(typed)) != std::string::npos;
+        EXPECT_EQ(shape.isValidChar(static_cast<char>(typed), pos), taken)
+            << c.shape << ' ' << typed << " at " << pos;
       }
     }
   }
@@ -47,7 +30,7 @@ TEST(LabelTemplate, AnswersEveryCharacterAtEveryShapeByTheRule) {
 
 TEST(LabelTemplate, EveryConverterTakesTheLabelsThatItWrites) {
   for (int t = 0; t < numLabelCvts; ++t) {
-    std::unique_ptr<label_cvt> const cvt{make_any_label_cvt(static_cast<label_t>(t))};
+    std::unique_ptr<label_cvt> const cvt{make_any_label_cvt(label_t{t})};
     LabelPoint point{*cvt, 12'345};
     if (cvt->UserType() == User_none || cvt->UserType() == User_film_frames)
       continue;  // "012345" has no sign column

@@ -69,14 +69,14 @@ TEST(Identifier, IsReadAsAScanWould) {
 }
 
 TEST(Identifier, IsWrittenAndReadBack) {
-  for (int medium = 1; medium < labelsbase::medium_count; ++medium)
-    for (int generation = 1; generation <= 5; ++generation) {
-      char text[labelsbase::identifier_text_size];
-      MediumRollId_to_string(text, make({medium, generation}));
-      ASSERT_EQ(read(text), ident(medium, generation)) << text;
-    }
+  for (int medium = 1; medium < labelsbase::medium_count; ++medium) {
+    char text[labelsbase::identifier_text_size];
+    ident const values{medium, medium % 5 + 1};
+    MediumRollId_to_string(text, make(values));
+    EXPECT_EQ(read(text), values) << text;
+  }
   for (auto const& [medium, generation] :
-       {ident{28, 1}, {0, 0}, {-1, 71}, {INT32_MIN, INT32_MIN}, {INT32_MAX, 5}}) {
+       {ident{28, 1}, {0, 0}, {-1, labelsbase::medium_count}, {INT32_MIN, INT32_MIN}, {INT32_MAX, 5}}) {
     auto const expected = std::to_string(medium) + "," + std::to_string(generation);
     std::unique_ptr<char[]> const text{new char[labelsbase::identifier_text_size]};
     EXPECT_EQ(MediumRollId_to_string(text.get(), make({medium, generation})), expected.size());
@@ -98,9 +98,10 @@ TEST(Identifier, HasAUserText) {
   struct {
     ident values;
     char const* text;
-  } const cases[] = {{{15, 2}, "24p,1stGen"}, {{28, 1}, "med?,anyGen"}, {{47, 3}, "12.5p,2ndGen"},
-                     {{11, 4}, "Lab,3rdGen"}, {{3, 5}, "video,4thGen"}, {{2, 0}, "film,gen?"},
-                     {{2, 6}, "film,gen?"},   {{-1, -1}, "med?,gen?"},  {{71, INT32_MIN}, "med?,gen?"}};
+  } const cases[] = {
+      {{15, 2}, "24p,1stGen"}, {{28, 1}, "med?,anyGen"}, {{47, 3}, "12.5p,2ndGen"},
+      {{11, 4}, "Lab,3rdGen"}, {{3, 5}, "video,4thGen"}, {{2, 0}, "film,gen?"},
+      {{2, 6}, "film,gen?"},   {{-1, -1}, "med?,gen?"},  {{labelsbase::medium_count, INT_MIN}, "med?,gen?"}};
   for (auto const& c : cases) EXPECT_STREQ(MediumRollId_to_UserString(make(c.values)), c.text);
 }
 
@@ -113,16 +114,13 @@ TEST(Roll, IsReadFromTheStoredText) {
       {"REV 1 MediumRollId 28,1 Reelid A",              {28, 1}, "old"},
       {"REV 1 MediumRollId 99 reelid A",                {0, 0},  "A"},
       {"REV 2 MediumRollId 28,1 reelid A",              {4, 4},  "old"},
-      {"REV x MediumRollId 28,1 reelid A",              {4, 4},  "old"},
       {"rev 1 MediumRollId 28,1 reelid A",              {4, 4},  "old"},
-      {"REV 1 MediumRollID 28,1 reelid A",              {4, 4},  "old"},
       {"1 MediumRollId 28,1 reelid A",                  {4, 4},  "old"},  // each token missing in turn
       {"REV MediumRollId 28,1 reelid A",                {4, 4},  "old"},
       {"REV 1 28,1 reelid A",                           {4, 4},  "old"},
       {"REV 1 MediumRollId reelid A",                   {0, 0},  "old"},
       {"REV 1 MediumRollId 28,1 A",                     {28, 1}, "old"},
       {"REV 1 MediumRollId 28,1 reelid",                {28, 1}, "old"},
-      {"REV 1 MediumRollId 28,1",                       {28, 1}, "old"},
       {"REV 1 MediumRollId",                            {4, 4},  "old"},
       {nullptr,                                         {4, 4},  "old"},
   };

@@ -35,6 +35,7 @@ void expect_timecode(label_cvt& cvt, int fps) {
   double const rate = classic && fps == 30 ? 30 / 1.001 : fps;
   EXPECT_EQ(cvt.UserType(), User_timecode);
   EXPECT_EQ(cvt.get_modulus(), fps);
+  EXPECT_EQ(labelsbase::facts_of(type).timecode.frames_per_second, fps);
   EXPECT_EQ(cvt.samples_per_unit(), 1);
   EXPECT_EQ(dynamic_cast<timecode_label&>(cvt).samples_per_day(), drop ? 24 * 107'892 : 86'400 * fps);
   EXPECT_EQ(cvt.get_template(true).text(), "-29.59.59." + digits_up_to(fps - 1));
@@ -87,6 +88,12 @@ void expect_film(label_cvt& cvt, std::smatch const& part) {
   EXPECT_EQ(cvt.getFrameSeparator(), foot ? '\0' : key && narrow ? '&' : '+');
   std::string const shape = (foot ? "-9999" : std::string(static_cast<std::size_t>(digits), '9')) +
                             (foot && !three ? "." : "+") + digits_up_to(frames - 1) + (three ? ".3" : "");
+  auto const& facts = labelsbase::facts_of(type).film;
+  EXPECT_EQ(facts.gauge.perfs_per_count(), per_key);
+  EXPECT_EQ(facts.gauge.perfs_per_frame(), perfs);
+  EXPECT_EQ(facts.separator, key && narrow ? '&' : '+');
+  EXPECT_EQ(facts.prefix_length, prefix);
+  EXPECT_EQ(facts.count_digits, foot ? 4 : digits);
   EXPECT_EQ(cvt.get_template(true).text(), std::string(static_cast<std::size_t>(prefix), '?') + shape);
   EXPECT_EQ(cvt.get_template(false).text(), std::string(static_cast<std::size_t>(prefix), '~') + shape);
   EXPECT_EQ(Label::get_natural_pitch(type), 1.0 / (24 * perfs));
@@ -116,7 +123,7 @@ void expect_film(label_cvt& cvt, std::smatch const& part) {
 
 TEST(Types, AreWhatTheirNamesSay) {
   for (int t = 0; t < numLabelCvts; ++t) {
-    auto& cvt = *get_static_label_cvt(static_cast<label_t>(t));
+    auto& cvt = *get_static_label_cvt(label_t{t});
     if (cvt.type() != t) continue;
     std::string const name = cvt.type_str();
     SCOPED_TRACE(name);
@@ -135,7 +142,7 @@ TEST(Types, AreWhatTheirNamesSay) {
 TEST(Media, RunAsTheirNamesSay) {
   int media = 0;
   for (int m = 0; m < labelsbase::medium_count; ++m) {
-    auto const medium = static_cast<MediumRollMedium>(m);
+    auto const medium = MediumRollMedium{m};
     std::string const name = labelsbase::medium_name(medium);
     SCOPED_TRACE(name);
     std::smatch part;
@@ -167,7 +174,7 @@ TEST(Media, RunAsTheirNamesSay) {
 
     bool const one_scan = nominal != 24 && nominal != 25 && nominal != 30;
     for (int const mode : {INT_MIN, -1, 0, 1, 2, 3, 4, 5, INT_MAX}) {
-      auto const scan = static_cast<Kiv::Image::ScanMode>(mode);
+      auto const scan = Kiv::Image::ScanMode{mode};
       if (!one_scan && frames != (mode == 3 || mode == 4)) continue;
       EXPECT_EQ(source ? getMediumRollfromInputDetails(scan, rate) : getMediumRollfromOutputDetails(scan, rate),
                 m);

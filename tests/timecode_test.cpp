@@ -79,7 +79,7 @@ TEST(Normalise, KeepsAWholeDay) {
   for (auto const& c : cases) EXPECT_EQ(pal.normalise_sample_unit(c.sample), c.normal) << c.sample;
 
   for (int t = 5; t < numLabelCvts; ++t) {
-    auto& cvt = *get_static_label_cvt(static_cast<label_t>(t));
+    auto& cvt = *get_static_label_cvt(label_t{t});
     if (cvt.UserType() != User_timecode) continue;
     auto const day = dynamic_cast<timecode_label&>(cvt).samples_per_day();
     for (int sample : {INT_MIN, INT_MIN + 1, -day - 1, -day, day, day + 1, 7 * day, INT_MAX}) {

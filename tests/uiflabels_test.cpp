@@ -5,8 +5,6 @@
 
 namespace {
 
-VagueUIFLabel choice(int value) { return static_cast<VagueUIFLabel>(value); }
-
 TEST(LabelChoices, AreFoundByNumber) {
   // clang-format off
   struct { int label; char const* config; ResId text; int family, medium, generation; } const cases[] = {
@@ -22,21 +20,21 @@ TEST(LabelChoices, AreFoundByNumber) {
   };
   // clang-format on
   for (auto const& c : cases) {
-    EXPECT_STREQ(uifLabel_to_config_str(choice(c.label)), c.config) << c.label;
-    EXPECT_EQ(uifLabelText(choice(c.label)), c.text) << c.label;
-    EXPECT_EQ(uifLabelType(choice(c.label)), c.family) << c.label;
-    EXPECT_EQ(uifLabelMedroll(choice(c.label)).medium, c.medium) << c.label;
-    EXPECT_EQ(uifLabelMedroll(choice(c.label)).generation, c.generation) << c.label;
+    EXPECT_STREQ(uifLabel_to_config_str(VagueUIFLabel{c.label}), c.config) << c.label;
+    EXPECT_EQ(uifLabelText(VagueUIFLabel{c.label}), c.text) << c.label;
+    EXPECT_EQ(uifLabelType(VagueUIFLabel{c.label}), c.family) << c.label;
+    EXPECT_EQ(uifLabelMedroll(VagueUIFLabel{c.label}).medium, c.medium) << c.label;
+    EXPECT_EQ(uifLabelMedroll(VagueUIFLabel{c.label}).generation, c.generation) << c.label;
   }
 }
 
 TEST(LabelChoices, AreFoundByKeywordTheEarlierFirst) {
   for (int label = 0; label <= 34; ++label) {
-    std::string const keyword = uifLabel_to_config_str(choice(label));
+    std::string const keyword = uifLabel_to_config_str(VagueUIFLabel{label});
     int const expected = label == 32 ? 16 : label == 28 ? 18 : label == 29 ? 21 : label == 30 ? 22 : label;
     EXPECT_EQ(config_str_to_uifLabel(keyword.c_str()), expected) << keyword;
-    EXPECT_NE(uifLabelText(choice(label)), 12840U);
-    EXPECT_NE(uifLabelType(choice(label)), 0);
+    EXPECT_NE(uifLabelText(VagueUIFLabel{label}), 12840U);
+    EXPECT_NE(uifLabelType(VagueUIFLabel{label}), 0);
   }
   for (char const* none : {"Name", "", "any_label", "name ", static_cast<char const*>(nullptr)})
     EXPECT_EQ(config_str_to_uifLabel(none), -1);
