@@ -66,7 +66,7 @@ TEST(FeetAndInk, ReadAnyText) {
       {foot_35_label_t, "1+20", 144},  // deliberate: more frames than the foot has
       {foot_35_label_t, "1x2", 72},  {foot_35_label_t, "7", 448}, {foot_35_label_t, "", 0},
       {foot_35_label_t, nullptr, 0}, {foot_35_label_t, "abc", 0},
-      {foot_35_label_t, "- 12+3", -(12 * 16 + 3) * 4}, {foot_35_label_t, "--12+3", (12 * 16 - 3) * 4},
+      {foot_35_label_t, "- 12+3", -(12 * 16 + 12) * 4}, {foot_35_label_t, "--12+3", (12 * 16 - 3) * 4},
       {foot_35_label_t, "+64+1", (64 * 16 + 1) * 4},   {foot_16_label_t, "4294967297+1", 41},
       {foot_35_label_t, "+x5", 0},  // a sign without a number separates
       {foot_353_label_t, " 0001+00.1", 64},                      {foot_353_label_t, "-0001+00.1", -64},

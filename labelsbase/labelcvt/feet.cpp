@@ -58,15 +58,16 @@ char const* foot_label::samples_to_feet(LabelPoint* point, int perfs) {
 }
 
 foot_label::parts foot_label::read_parts(char const* text) noexcept {
-  text_reader in{text};
-  in.skip_blanks();
-  bool const negative = in.literal('-');
+  while (is_blank(*text)) ++text;
+  bool const negative = *text == '-';
+  text += negative;
 
-  auto const at_feet = in;
-  auto const feet = in.number();
-  if (!feet) in = at_feet;  // a sign without a number separates, as any character does
-  static_cast<void>(in.character());
-  return {negative, feet.value_or(0), in.number().value_or(0)};
+  // Deliberate: passes over a sign and digits that begin right here, so a number behind a blank is read twice.
+  auto const feet = text_reader{text}.number();
+  if (feet && (*text == '+' || *text == '-')) ++text;
+  while (is_digit(*text)) ++text;
+  if (*text) ++text;
+  return {negative, feet.value_or(0), text_reader{text}.number().value_or(0)};
 }
 
 int foot_label::feet_to_samples(char const* text) {

@@ -18,9 +18,11 @@ class scratch_register {
     return *this;
   }
 
-  // Hosts' classes may count on from what a conversion left behind.
+  // Change the number, for hosts' classes that count on from it.
   scratch_register& operator+=(int change) noexcept { return *this = wrap_add(*this, change); }
+  scratch_register& operator-=(int change) noexcept { return *this = wrap_sub(*this, change); }
   scratch_register& operator++() noexcept { return *this += 1; }
+  scratch_register& operator--() noexcept { return *this -= 1; }
 
   operator int() const noexcept {  // NOLINT(google-explicit-constructor): a register reads as its number
     return value_.load(std::memory_order_relaxed);
