@@ -29,6 +29,21 @@ TEST(Label, IsMadeOfATypeAConverterOrAPoint) {
   EXPECT_EQ(Label{cvt}.start.cvt(), &cvt);
 }
 
+  LabelPoint unterminated{ink_35_label_t, 0};
+  std::memset(unterminated.prefix, '9', sizeof unterminated.prefix);
+  std::strcpy(unterminated.text, "ABCDEFGHIJK");
+  EXPECT_STREQ(Label{unterminated}.start.prefix, "99999999");  // nothing of the text behind it
+}
+
+TEST(Label, ReportsATypeOutOfRange) {
+  for (int const type : {-1, numLabelCvts}) {
+    testing::internal::CaptureStdout();
+    Label const label{static_cast<label_t>(type)};
+    EXPECT_NE(testing::internal::GetCapturedStdout().find("assertion failed false at labelsbase/labelcvt"),
+              std::string::npos);
+    EXPECT_EQ(label.start.cvt()->type(), dummy_label_t);
+  }
+
 TEST(Label, CopiesAllButTheRevision) {
   Label original = range(keycode_35_label_t, 640, 64);
   original.set_prefix("KJ1234560010+00");

@@ -21,7 +21,7 @@ Label::Label(label_cvt& cvt) : start{cvt, 0}, length{default_label_length}, pitc
 
 Label::Label(LabelPoint const& point)
     : start{point}, length{default_label_length}, pitch{get_natural_pitch(point.converter->type())} {
-  start.converter->set_prefix(&start, point.prefix);
+  start.converter->set_prefix(&start, start.prefix);  // the copy is terminated, the other need not be
 }
 
 Label::Label(Label const& other)
