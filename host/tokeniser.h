@@ -7,7 +7,7 @@
 //   tokeniser t{": REV: 1 ", ": "};  // t.next() returns "REV", then "1", then null
 class tokeniser {
  public:
-  // A null `text` or `separators` reads as an empty one. If the host is out of memory, there are no tokens.
+  // Neither `text` nor `separators` is ever null. If the host is out of memory, there are no tokens.
   tokeniser(char const* text, char const* separators);
   ~tokeniser();
   tokeniser(tokeniser const&) = delete;

@@ -14,8 +14,8 @@ struct tokeniser::state {
 };
 
 tokeniser::tokeniser(char const* text, char const* separators) {
-  std::string_view const source{text ? text : ""};
-  std::string_view const separator_set{separators ? separators : ""};
+  std::string_view const source{text};
+  std::string_view const separator_set{separators};
   void* block = OS().allocator().allocate(sizeof(state) + source.size() + 1);
   if (!block) return;
 

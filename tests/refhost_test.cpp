@@ -113,14 +113,13 @@ TEST(Tokeniser, SplitsAtRunsOfSeparators) {
   // clang-format off
   struct { char const* text; char const* separators; std::vector<std::string> tokens; } const cases[] = {
       {"  a   b ", " ", {"a", "b"}}, {"::a: :b", ": ", {"a", "b"}}, {"a b", "", {"a b"}},
-      {"a b", nullptr, {"a b"}},     {" : ", ": ", {}},             {"", " ", {}},
-      {nullptr, " ", {}},            {nullptr, nullptr, {}},
+      {" : ", ": ", {}},             {"", " ", {}},
       {"REV: 1 MediumRollId: 28,1", ": ", {"REV", "1", "MediumRollId", "28,1"}},
       {"\xE9t\xE9\xFF\x80 \x81", " \x80", {"\xE9t\xE9\xFF", "\x81"}},
   };
   // clang-format on
   auto const before = refhost::allocator_statistics();
-  for (auto const& c : cases) EXPECT_EQ(tokens(c.text, c.separators), c.tokens) << (c.text ? c.text : "null");
+  for (auto const& c : cases) EXPECT_EQ(tokens(c.text, c.separators), c.tokens) << c.text;
   EXPECT_EQ(refhost::allocator_statistics().live_blocks, before.live_blocks);
 }
 

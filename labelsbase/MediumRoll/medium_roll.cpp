@@ -129,6 +129,7 @@ void MediumRoll::set_reelid(LightweightString<char> const& reel) noexcept { reel
 
 void MediumRoll::fill_from_string(char const* text) {
   constexpr int revision = 1;
+  if (!text) return;
   auto const is = [](char const* token, char const* word) { return token && std::strcmp(token, word) == 0; };
 
   tokeniser tokens{text, ": "};

@@ -55,7 +55,7 @@ char* Label::make_keep_string(char* buffer) const {
 }
 
 Label::Label(char const* keep) {
-  tokeniser fields{keep, " "};
+  tokeniser fields{or_empty(keep), " "};
   char const* const first = fields.next();
   if (!first || std::strncmp(first, header, header_length) != 0) return;
   revision = revision_of(first);
