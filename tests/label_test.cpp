@@ -171,6 +171,13 @@ TEST(Label, ContainsLabelsOfItsRollAndRange) {
     EXPECT_EQ(open.contains(c.inner), same_roll);
   }
   EXPECT_TRUE(range(pal_label_t, 0, 10).contains(range(ntsc_label_t, 5, 5)));  // deliberate: types do not count
+
+  // A label without a prefix has the one that its converter read last: here that of the roll.
+  Label roll{keycode_35_label_t};
+  roll.set_prefix("AB123456");
+  Label{keycode_35_label_t}.set_prefix("ZZ999999");
+  EXPECT_TRUE(roll.contains(Label{keycode_35_label_t}));
+
 }
 
 TEST(Label, EqualityHoldsStartsAndEndsTogether) {

@@ -87,8 +87,10 @@ bool Label::contains(int sample) const noexcept {
 }
 
 bool Label::contains(Label const& other) const {
-  LabelPoint theirs = other.start;
-  if (!std::ranges::equal(prefix_of(start), prefix_of(theirs), {}, to_upper, to_upper)) return false;
+  // This label's prefix first: a converter that both share remembers it for a label without one.
+  auto const prefix = prefix_of(start);
+  LabelPoint their_start = other.start;
+  if (!std::ranges::equal(prefix, prefix_of(their_start), {}, to_upper, to_upper)) return false;
   if (bounded == 0) return true;
   int const offset = wrap_sub(other.start.sample, start.sample);
   if (!lies_within(offset, length)) return false;
