@@ -172,6 +172,8 @@ TEST(Roll, EqualsWhereItFitsAndTheReelIsOneBuffer) {
   EXPECT_TRUE(a.reelid == copy.reelid && a.reelid.capacity() == copy.reelid.capacity());
   b.set_reelid(a.reelid);
   EXPECT_TRUE(a == b);
+  b.set_reelid({"A\0B", 3});
+  EXPECT_TRUE(MediumRoll{b}.reelid == b.reelid);  // by length
   b = copy;
   EXPECT_TRUE(b == copy);
 }

@@ -121,7 +121,8 @@ MediumRoll::MediumRoll(MediumRollIdent const& key, configb* config) {
   if (config->in(config_key, text) == 0) fill_from_string(text);
 }
 
-MediumRoll::MediumRoll(MediumRoll const& other) noexcept : ident{other.ident}, reelid{other.reelid.c_str()} {}
+MediumRoll::MediumRoll(MediumRoll const& other) noexcept
+    : ident{other.ident}, reelid{other.reelid.c_str(), other.reelid.length()} {}
 
 MediumRoll::~MediumRoll() = default;
 
