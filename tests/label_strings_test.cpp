@@ -103,7 +103,7 @@ TEST(LabelStrings, MoveOnByFrames) {
 
 TEST(LabelStrings, MoveOnByTime) {
   EXPECT_EQ(get_frame_rate(Material_25, Edit_film), 24.0);
-  EXPECT_DOUBLE_EQ(get_frame_rate(Material_29_97, Edit_video), 29.97002997002997);
+  EXPECT_EQ(get_frame_rate(Material_29_97, Edit_video), 29.970029970029973);
   EXPECT_EQ(get_frame_rate(Material_30, edit_type{9}), 30.0);
   EXPECT_EQ(get_frame_rate(material_type{-9}, Edit_video), 25.0);
 

@@ -80,6 +80,8 @@ TEST(HostRates, UnknownOrOfTheProject) {
     EXPECT_EQ(TvStd_to_label_type({rate, true}), ntsc_drop_label_t) << code;
     EXPECT_EQ(getDefaultLabelTypeforFrameRate(rate), tc_24_label_t) << code;
   }
+  EXPECT_EQ(getDefaultTimecodeFrameRate(Kiv::FrameRate_23_976), 23.976023976023978);
+  EXPECT_EQ(getDefaultTimecodeFrameRate(Kiv::FrameRate_29_97), 29.970029970029973);
   refhost::project_guard const drop{{.frame_rate = Kiv::FrameRate_29_97, .drop_frame = true}};
   EXPECT_EQ(getDefaultLabelTypeForProject(), ntsc_drop_label_t);
   refhost::project_guard const pal{{.frame_rate = Kiv::FrameRate_25, .drop_frame = true}};

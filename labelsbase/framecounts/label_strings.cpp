@@ -115,7 +115,7 @@ double get_frame_rate(material_type material, edit_type edit) noexcept {
   if (edit == Edit_film) return 24.0;
   switch (material) {
     case Material_29_97:
-      return 30'000.0 / 1'001.0;
+      return 30 / 1.001;  // 29.970029970029973, as hosts print it
     case Material_30:
       return 30.0;
     case Material_25:

@@ -15,32 +15,34 @@ struct timecode_rate_row {
   label_t default_type;   // of material of this rate
 };
 
+// Rates with the 1000/1001 factor are the nominal rate / 1.001, as hosts print them: 29.970029970029973, which is
+// the double after 30000.0 / 1001.
 // clang-format off
 constexpr timecode_rate_row timecode_rate_rows[] = {
 //  rate                     counted fps      by standard     by rate
     {Kiv::FrameRate_24,      24.0,            tc_24_label_t,  tc_24_label_t},
-    {Kiv::FrameRate_23_976,  24000.0 / 1001,  tc_24_label_t,  tc_24_label_t},
+    {Kiv::FrameRate_23_976,  24 / 1.001,  tc_24_label_t,  tc_24_label_t},
     {Kiv::FrameRate_25,      25.0,            pal_label_t,    pal_label_t},
     {Kiv::FrameRate_30,      30.0,            null_label_t,   ntsc_label_t},
-    {Kiv::FrameRate_29_97,   30000.0 / 1001,  null_label_t,   ntsc_label_t},
+    {Kiv::FrameRate_29_97,   30 / 1.001,  null_label_t,   ntsc_label_t},
     {Kiv::FrameRate_48,      24.0,            tc_24_label_t,  tc_24_label_t},
     {Kiv::FrameRate_47_952,  24.0,            tc_24_label_t,  tc_24_label_t},
     {Kiv::FrameRate_50,      50.0,            tc_50_label_t,  tc_50_label_t},
     {Kiv::FrameRate_60,      60.0,            tc_60_label_t,  tc_60_label_t},
-    {Kiv::FrameRate_59_94,   60000.0 / 1001,  tc_60_label_t,  tc_60_label_t},
+    {Kiv::FrameRate_59_94,   60 / 1.001,  tc_60_label_t,  tc_60_label_t},
     {Kiv::FrameRate_12,      12.0,            tc_12_label_t,  tc_12_label_t},
-    {Kiv::FrameRate_11_988,  12000.0 / 1001,  tc_12_label_t,  tc_12_label_t},
+    {Kiv::FrameRate_11_988,  12 / 1.001,  tc_12_label_t,  tc_12_label_t},
     {Kiv::FrameRate_12_5,    12.5,            tc_12_label_t,  tc_12_label_t},
     {Kiv::FrameRate_15,      15.0,            tc_15_label_t,  tc_15_label_t},
-    {Kiv::FrameRate_14_985,  15000.0 / 1001,  tc_15_label_t,  tc_15_label_t},
+    {Kiv::FrameRate_14_985,  15 / 1.001,  tc_15_label_t,  tc_15_label_t},
     {Kiv::FrameRate_20,      20.0,            tc_20_label_t,  tc_20_label_t},
     {Kiv::FrameRate_80,      80.0,            tc_80_label_t,  tc_80_label_t},
     {Kiv::FrameRate_90,      90.0,            tc_90_label_t,  tc_90_label_t},
     {Kiv::FrameRate_100,     100.0,           tc_100_label_t, tc_100_label_t},
     {Kiv::FrameRate_120,     120.0,           tc_120_label_t, tc_120_label_t},
-    {Kiv::FrameRate_119_88,  120000.0 / 1001, tc_120_label_t, tc_120_label_t},
+    {Kiv::FrameRate_119_88,  120 / 1.001, tc_120_label_t, tc_120_label_t},
     {Kiv::FrameRate_240,     240.0,           tc_240_label_t, tc_240_label_t},
-    {Kiv::FrameRate_239_76,  240000.0 / 1001, tc_240_label_t, tc_240_label_t},
+    {Kiv::FrameRate_239_76,  240 / 1.001, tc_240_label_t, tc_240_label_t},
 };
 // clang-format on
 
