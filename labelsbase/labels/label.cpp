@@ -15,7 +15,10 @@
 using namespace labelsbase;
 
 Label::Label(label_t type)
-    : start{type, 0}, length{default_label_length}, pitch{get_natural_pitch(type)}, bounded{1} {}
+    : start{*get_static_label_cvt(type), 0},
+      length{default_label_length},
+      pitch{get_natural_pitch(type)},
+      bounded{1} {}
 
 Label::Label(label_cvt& cvt) : start{cvt, 0}, length{default_label_length}, pitch{get_natural_pitch(cvt.type())} {}
 
