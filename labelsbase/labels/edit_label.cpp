@@ -9,7 +9,7 @@
 
 using namespace labelsbase;
 
-constinit std::atomic<int> EditLabel::howmany{0};
+constinit std::atomic<int> EditLabel::howmany{1};
 
 namespace {
 
@@ -19,13 +19,10 @@ bool are_equal(MediumRollIdent const& a, MediumRollIdent const& b) noexcept {
 
 }  // namespace
 
-EditLabel::EditLabel(Label const& label, MediumRollIdent const& roll) : Label{label} {
-  howmany.fetch_add(1, std::memory_order_relaxed);
-  init(roll);
-}
+EditLabel::EditLabel(Label const& label, MediumRollIdent const& roll) : Label{label} { init(roll); }
 
 EditLabel::EditLabel(EditLabel const& other)
-    : Label{other}, medium_roll{other.medium_roll}, reserved_flag_{other.reserved_flag_} {
+    : Label{other}, medium_roll{other.medium_roll}, reserved_flag{other.reserved_flag} {
   howmany.fetch_add(1, std::memory_order_relaxed);
 }
 
@@ -53,7 +50,8 @@ void EditLabel::init(MediumRollIdent const& roll) {
   medium_roll = roll;
   fixup_pitch();
   pitch_fixed = false;
-  reserved_flag_ = 1;
+  reserved_flag = 1;
+  howmany.fetch_add(1, std::memory_order_relaxed);
 }
 
 void EditLabel::set_type(label_t type) {
@@ -89,7 +87,11 @@ char* EditLabel::make_keep_string(char* buffer) {
 }
 
 EditLabel const& invalid_edit_label() {
-  static EditLabel const invalid{get_invalid_label(), get_invalid_MediumRollIdent()};
+  // It has been counted from the start.
+  static EditLabel const invalid = [] {
+    EditLabel::howmany.fetch_sub(1, std::memory_order_relaxed);
+    return EditLabel{get_invalid_label(), get_invalid_MediumRollIdent()};
+  }();
   return invalid;
 }
 

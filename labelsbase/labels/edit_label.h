@@ -12,13 +12,16 @@
 // frames a second on one medium, at 30000/1001 on another.
 class LABELSBASE_API EditLabel : public Label {
  public:
-  // Live edit labels.
+  // Live edit labels, indicative only. The invalid edit label counts from the start, and every call of init counts
+  // like a constructor.
   static std::atomic<int> howmany;
 
   MediumRollIdent medium_roll;
 
   // Whether the pitch was corrected after construction.
   bool pitch_fixed = false;
+
+  int reserved_flag = 1;  // the host's; nothing here reads it
 
   // A label on a medium and roll, at the speed that this gives it.
   EditLabel(Label const& label, MediumRollIdent const& roll);
@@ -36,7 +39,7 @@ class LABELSBASE_API EditLabel : public Label {
 
   ~EditLabel();
 
-  // The medium and roll, and the speed that they give the label.
+  // Sets the medium and roll, the speed that they give the label, and the reserved flag.
   void init(MediumRollIdent const& roll);
 
   void set_type(label_t type);
@@ -67,7 +70,6 @@ class LABELSBASE_API EditLabel : public Label {
 
  private:
   char keep_buffer_[512] = {};
-  int reserved_flag_ = 1;  // the host's; nothing here reads it
 };
 
 // The one invalid edit label: an invalid label on no medium.
