@@ -25,6 +25,35 @@ TEST(KeepString, IsWrittenFieldByField) {
   EXPECT_STREQ(film.make_keep_string(nullptr), kept(film).c_str());
 }
 
+// A host's converter.
+class odd_label : public variable_label {
+ public:
+  odd_label(char const* text, int samples_per_unit) : variable_label{1, samples_per_unit}, text_{text} {}
+  char const* get_abs_string(LabelPoint*, int) override { return text_; }
+
+ private:
+  char const* text_;
+};
+
+TEST(KeepString, HasAllItsFieldsWithAnyConverter) {
+  struct {
+    char const* start;
+    int samples_per_unit;
+    char const* text;
+  } const cases[] = {
+      {"", 2, "LABEL_REV:1 variable_label ? 5 2.0000000000 0"},
+      {"  \t", 2, "LABEL_REV:1 variable_label ? 5 2.0000000000 0"},
+      {"x", 0, "LABEL_REV:1 variable_label x 10 1.0000000000 0"},
+      {"x", -4, "LABEL_REV:1 variable_label x 10 1.0000000000 0"},
+  };
+  for (auto const& c : cases) {
+    odd_label cvt{c.start, c.samples_per_unit};
+    Label label{cvt};
+    label.length = 10;
+    EXPECT_EQ(kept(label), c.text);
+  }
+}
+
 // Bounded and not, with several lengths and prefixes, for every type.
 TEST(KeepString, BringsEveryTypeBack) {
   for (int t = 0; t < numLabelCvts; ++t)

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <string_view>
 
 #include "host/tokeniser.h"
 #include "labelsbase/counts/integers.h"
@@ -29,22 +30,26 @@ int revision_of(char const* field) noexcept {
   return field[header_length] ? number_of(field + header_length + 1) : 0;
 }
 
-// The start with the blanks of its prefix filled, so that it is one field.
+// Writes the start as one field: "?" for an empty or blank text, "_" for a blank in its prefix.
 void put_start(text_writer& out, LabelPoint& start) {
   char const* text = start.get_string();
   int const prefix_length = start.converter->get_prefix_length();
+  if (std::ranges::all_of(std::string_view{text}, is_blank)) text = "?";
   for (int i = 0; *text; ++i, ++text) out.put(*text == ' ' && i < prefix_length ? '_' : *text);
 }
+
+// Samples per unit of length and pitch; 1 for a converter that gives none.
+int unit_of(label_cvt const& cvt) { return std::max(cvt.samples_per_unit(), 1); }
 
 }  // namespace
 
 std::size_t Label::write_keep_string(char* buffer, std::size_t size) const {
   text_writer out{buffer, size};
-  int const samples_per_unit = start.converter->samples_per_unit();
+  int const unit = unit_of(*start.converter);
   out.put(header).put(":1 ").put(start.converter->type_str()).put(' ');
   put_start(out, start);
-  out.put(' ').number(samples_per_unit > 0 ? length / samples_per_unit : length).put(' ');
-  put_fixed(out, pitch * samples_per_unit).put(' ').number(bounded);
+  out.put(' ').number(length / unit).put(' ');
+  put_fixed(out, pitch * unit).put(' ').number(bounded);
   return out.length();
 }
 
@@ -69,7 +74,7 @@ Label::Label(char const* keep) {
   if (char const* const seconds_per_unit = fields.next()) pitch = read_double(seconds_per_unit);
   if (char const* const flag = fields.next()) bounded = number_of(flag);
 
-  int const samples_per_unit = start.converter->samples_per_unit();
-  if (samples_per_unit != 0) pitch /= samples_per_unit;
-  length = wrap_mul(length, samples_per_unit);
+  int const unit = unit_of(*start.converter);
+  pitch /= unit;
+  length = wrap_mul(length, unit);
 }

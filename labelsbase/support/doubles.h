@@ -5,7 +5,6 @@
 #include <charconv>
 #include <cstring>
 #include <limits>
-#include <string_view>
 #include <system_error>
 
 #include "labelsbase/support/text.h"
