@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdint>
 #include <cstring>
 #include <limits>
 #include <system_error>
@@ -11,7 +12,7 @@
 
 namespace labelsbase {
 
-// As "%.10f" in the "C" locale.
+// Writes a double as "%.10f" does in the "C" locale.
 inline text_writer& put_fixed(text_writer& out, double value) noexcept {
   char digits[352];  // more than the largest double has
   auto const end = std::to_chars(digits, digits + sizeof digits - 1, value, std::chars_format::fixed, 10).ptr;
@@ -19,28 +20,99 @@ inline text_writer& put_fixed(text_writer& out, double value) noexcept {
   return out.put(digits);
 }
 
-// As strtod in the "C" locale; 0 when no number begins the text.
+[[nodiscard]] constexpr bool is_hex_digit(char c) noexcept {
+  return is_digit(c) || (to_upper(c) >= 'A' && to_upper(c) <= 'F');
+}
+
+// How a number is written: its digits, and what its exponent counts.
+struct number_form {
+  bool (*is_digit)(char c) noexcept;
+  char exponent_mark;  // in capitals
+  int digit_weight;    // what a digit adds to the exponent
+  std::chars_format format;
+};
+
+inline constexpr number_form decimal_form{is_digit, 'E', 1, std::chars_format::general};
+inline constexpr number_form hexadecimal_form{is_hex_digit, 'P', 4, std::chars_format::hex};
+
+// A part of a number: where it ends, and the exponent that it stands for.
+struct number_part {
+  char const* end;
+  std::int64_t exponent;
+};
+
+// Finds an exponent: [mark [+|-] decimal digits]. Its value stops far outside the range of doubles.
+[[nodiscard]] constexpr number_part find_exponent(char const* text, number_form const& form) noexcept {
+  if (to_upper(*text) != form.exponent_mark) return {text, 0};
+  char const* next = text + 1;
+  bool const is_negative = *next == '-';
+  if (is_negative || *next == '+') ++next;
+  if (!is_digit(*next)) return {text, 0};
+
+  constexpr auto largest = std::numeric_limits<std::int64_t>::max() / 100;
+  std::int64_t exponent = 0;
+  for (; is_digit(*next); ++next) exponent = std::min(exponent * 10 + (*next - '0'), largest);
+  return {next, is_negative ? -exponent : exponent};
+}
+
+// Finds a number without its sign and "0x": digits [. digits] [exponent], with a digit before or behind the point.
+// Returns the start of the text as the end if there is none. The exponent is that of the first significant digit,
+// so it tells a number that is too large from one that is too small.
+[[nodiscard]] constexpr number_part find_number(char const* text, number_form const& form) noexcept {
+  char const* next = text;
+  std::int64_t places = 0;  // significant digits before the point, or minus the zeros behind it
+  bool has_digits = false;
+  bool is_significant = false;
+  bool is_fraction = false;
+  for (;; ++next) {
+    if (*next == '.' && !is_fraction) {
+      is_fraction = true;
+    } else if (form.is_digit(*next)) {
+      has_digits = true;
+      is_significant |= *next != '0';
+      if (is_significant && !is_fraction) ++places;
+      if (is_fraction && !is_significant) --places;
+    } else {
+      break;
+    }
+  }
+  if (!has_digits) return {text, 0};
+  auto const [end, exponent] = find_exponent(next, form);
+  return {end, places * form.digit_weight + exponent};
+}
+
+// Reads a double as strtod does in the "C" locale, correctly rounded. Returns 0 if the text does not begin with a
+// number; an infinity for a number that is too large, and 0 for one that is too small.
+//
+//   blanks [+|-] ( decimal | 0x hexadecimal | inf | infinity | nan ), in any case
 [[nodiscard]] inline double read_double(char const* text) noexcept {
   while (is_blank(*text)) ++text;
-  bool const negative = *text == '-';
-  if (negative || *text == '+') ++text;
-  if (*text == '-') return 0.0;  // one sign is enough
+  bool const is_negative = *text == '-';
+  if (is_negative || *text == '+') ++text;
 
-  auto format = std::chars_format::general;
+  auto const* form = &decimal_form;
+  auto number = find_number(text, decimal_form);
   if (text[0] == '0' && to_upper(text[1]) == 'X') {
-    format = std::chars_format::hex;
-    text += 2;
+    // Without hexadecimal digits behind it, "0x" is the decimal 0 and an x.
+    auto const hexadecimal = find_number(text + 2, hexadecimal_form);
+    if (hexadecimal.end != text + 2) {
+      text += 2;
+      form = &hexadecimal_form;
+      number = hexadecimal;
+    }
   }
+  char const* end = number.end;
+  if (end == text) {
+    if (!is_upper(to_upper(*text))) return 0.0;  // a second sign, say, which from_chars would take
+    end = text + std::strlen(text);
+  }
+
   double value = 0.0;
-  auto const [end, error] = std::from_chars(text, text + std::strlen(text), value, format);
-  if (error == std::errc::result_out_of_range) {
-    // Too large or too small, as its exponent or its first digits say.
-    std::string_view const number{text, static_cast<std::size_t>(end - text)};
-    bool const small =
-        number.find('-') != std::string_view::npos || number.find_first_not_of('0') == number.find('.');
-    value = small ? 0.0 : std::numeric_limits<double>::infinity();
-  }
-  return negative ? -value : value;
+  auto const error = std::from_chars(text, end, value, form->format).ec;
+  if (error == std::errc::invalid_argument) return 0.0;
+  if (error == std::errc::result_out_of_range)
+    value = number.exponent > 0 ? std::numeric_limits<double>::infinity() : 0.0;
+  return is_negative ? -value : value;
 }
 
 }  // namespace labelsbase
