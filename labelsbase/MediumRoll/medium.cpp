@@ -102,7 +102,8 @@ MediumRollMedium getMediumRollfromOutputDetails(Kiv::Image::ScanMode scan, Kiv::
 }
 
 MediumRollMedium getMediumRollfromOutputFormat(OutputFormat::Details const& format) {
-  return getMediumRollfromOutputDetails(format.getScanMode(), format.getFrameRate());
+  auto const scan = format.getScanMode();
+  return getMediumRollfromOutputDetails(scan, format.getFrameRate());
 }
 
 MediumRollMedium getMediumRollfromOutputFramerateDouble(double fps) noexcept {

@@ -14,10 +14,9 @@ int moved_phase(int phase, int delta, int cycle) noexcept {
   return static_cast<int>((std::int64_t{phase} + delta) % cycle);
 }
 
-void set_output(MPosn_Xlate_Params& params, Kiv::FrameRate rate, bool pulled_down) {
+void set_output_rate(MPosn_Xlate_Params& params, Kiv::FrameRate rate) {
   params.output_rate = rate;
   params.output_1001 = Kiv::has1001Factor(rate);
-  params.output_pulled_down = pulled_down;
 }
 
 void set_project(MPosn_Xlate_Params& params, Kiv::FrameRate rate) {
@@ -30,9 +29,11 @@ void set_project(MPosn_Xlate_Params& params, Kiv::FrameRate rate) {
 MPosn_Xlate_Params::MPosn_Xlate_Params() { init(); }
 
 MPosn_Xlate_Params::MPosn_Xlate_Params(Kiv::OutputGearing const& gearing) : MPosn_Xlate_Params{} {
-  set_output(*this, gearing.getFrameRate(), gearing.getUsePulldown());
+  set_output_rate(*this, gearing.getFrameRate());
+  output_pulled_down = gearing.getUsePulldown();
 }
 
+// The host is asked in the order of the fields.
 void MPosn_Xlate_Params::init() {
   using Kiv::CurrentProject;
   transfer = Transfer_one_to_one;
@@ -41,10 +42,11 @@ void MPosn_Xlate_Params::init() {
   video_medium = Medium_none;
   cookie = invalid_cookie;
   set_project(*this, CurrentProject::getFrameRate(0));
-  set_output(*this, CurrentProject::getOutputImageKIVFrameRate(), CurrentProject::outputFormatIsPulledDown());
+  set_output_rate(*this, CurrentProject::getOutputImageKIVFrameRate());
   audio_sync_pulled_down = CurrentProject::vidprojAudSyncIsPulledDown();
   reserved_flag = false;
   film_fps = Kiv::getFramesPerSecond(CurrentProject::getInCameraFilmSpeed());
+  output_pulled_down = CurrentProject::outputFormatIsPulledDown();
   reserved = 0;
 }
 
@@ -54,7 +56,8 @@ void MPosn_Xlate_Params::init_for_labelgroup(transfer_type labels_transfer, int 
   sequence = first_sequence;
   video_rate = output_rate;
   auto const& picture = Kiv::CurrentProject::getOutputImageFormat(0);
-  video_medium = getMediumRollfromInputDetails(picture.getScanMode(), picture.getFrameRate());
+  auto const scan = picture.getScanMode();
+  video_medium = getMediumRollfromInputDetails(scan, picture.getFrameRate());
 }
 
 void MPosn_Xlate_Params::init_to_default_filmvid_conversion(Kiv::FrameRate rate) {
@@ -74,7 +77,8 @@ void MPosn_Xlate_Params::init_to_default_playout_generation() {
 void MPosn_Xlate_Params::initOutputFormat(Kiv::FrameRate project, Kiv::FrameRate output, bool pulledDown) {
   init();
   set_project(*this, project);
-  set_output(*this, output, pulledDown);
+  set_output_rate(*this, output);
+  output_pulled_down = pulledDown;
 }
 
 void MPosn_Xlate_Params::modify_sequence_to_playfile_std(int delta) {
