@@ -30,7 +30,7 @@ LABELSBASE_API int film_frames_to_filmtc(int film, char* text) noexcept;
 
 // A key number of 4 digits and its frame; 5 in a text of 7 characters, 6 in one of 8. Blanks among the first 8
 // characters of the text become zeros, in place. `per_key` is the frames of a key, or its perforations for the
-// labels that count them; 0 is refused.
+// labels that count them, from 1 up; 0 and below are refused.
 //
 // Film at 3 perforations a frame (Label_keycode_3perf) has keys of 21, 21 and 22 frames, 64 to three keys, and
 // does not look at `per_key`. `phase` says which this key is: 1 and 2 the short ones, 3 the long one. `phase_out`

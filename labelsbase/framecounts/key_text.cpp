@@ -116,7 +116,7 @@ int keycode_to_film_frames(int* film, char* text, int phase, int* phase_out, lab
   auto const& row = count_label_row_of(label);
   if (row.form != text_form::keycode || !film) return 0;
   if (label == Label_keycode_3perf) return read_three_perf(film, text, phase, phase_out);
-  if (per_key == 0) return 0;
+  if (per_key <= 0) return 0;
 
   auto const [key, rest] = read_key_number(text);
   return put_count(film, (key * per_key + rest) / row.units_per_frame + 1);
@@ -127,7 +127,7 @@ int film_frames_to_keycode(int film, char* text, int phase, int* phase_out, labe
   auto const& row = count_label_row_of(label);
   if (row.form != text_form::keycode || !text) return 0;
   if (label == Label_keycode_3perf) return write_three_perf(film, text, phase, phase_out, keys_of(digits));
-  if (per_key == 0) return 0;
+  if (per_key <= 0) return 0;
 
   auto const span = std::int64_t{keys_of(digits)} * per_key / row.units_per_frame;
   auto const units = wrap_once(std::int64_t{film} - 1, span) * row.units_per_frame;
