@@ -176,7 +176,7 @@ TEST(EditLabel, ReadsWhatItCanOfARoll) {
   };
   // clang-format on
   for (auto const& c : cases) {
-    EditLabel const label{c.text};
+    EditLabel const label = c.text;
     SCOPED_TRACE(c.text ? c.text : "null");
     EXPECT_EQ(label.medium_roll.medium, c.medium);
     EXPECT_EQ(label.medium_roll.generation, c.generation);

@@ -124,7 +124,7 @@ TEST(KeepString, MayEndAfterAnyField) {
   };
   // clang-format on
   for (auto const& c : cases) {
-    Label const label{c.text};
+    Label const label = c.text;
     SCOPED_TRACE(c.text ? c.text : "null");
     EXPECT_EQ(label.start.cvt()->type(), c.type);
     EXPECT_EQ(label.start.sample, c.sample);

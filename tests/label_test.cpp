@@ -12,14 +12,14 @@ Label range(label_t type, int start, int length) {
 }
 
 TEST(Label, IsMadeOfATypeAConverterOrAPoint) {
-  Label const typed{pal_label_t};
+  Label const typed = pal_label_t;
   EXPECT_EQ(typed.cmp(100'000'000), 0);
   EXPECT_EQ(typed.cmp(100'000'001), past_end);
   EXPECT_EQ(typed.cmp(-1), before_start);
   EXPECT_EQ(typed.pitch, 0.04);
 
   tc_24_label cvt{15};
-  for (Label const& open : {Label{cvt}, Label{LabelPoint{tc_24_label_t, 48}}}) {
+  for (Label const& open : std::initializer_list<Label>{cvt, LabelPoint{tc_24_label_t, 48}}) {
     EXPECT_EQ(open.bounded, 0);
     EXPECT_EQ(open.length, 100'000'000);
     EXPECT_EQ(open.pitch, 1.0 / 24);

@@ -32,7 +32,7 @@ class LABELSBASE_API EditLabel : public Label {
   // A keep string: that of a label, and then "MediumRollId 15,2". Without this word the medium and roll are {1,
   // 1}. The pitch is the one that was kept. Strings of revision 2 are read, with a warning on the host's
   // diagnostic print.
-  explicit EditLabel(char const* keep);
+  EditLabel(char const* keep);
 
   // The label part, the medium and the roll.
   EditLabel& operator=(EditLabel const& other);

@@ -31,17 +31,18 @@ class LABELSBASE_API Label {
   int bounded = 0;     // unless 0, offsets outside 0 to `length` are out of range
 
   // The labels of a type from sample 0, bounded.
-  explicit Label(label_t type);
+  Label(label_t type);
 
   // Those of a converter, unbounded. The converter must outlive the label.
-  explicit Label(label_cvt& cvt);
+  Label(label_cvt& cvt);
 
   // Those from a point on, unbounded.
-  explicit Label(LabelPoint const& point);
+  Label(LabelPoint const& point);
 
-  // A keep string: "LABEL_REV:1 pal_label 01:00:00.00 250 0.0400000000 1". What cannot be read of it stays as in a
-  // new label: invalid converter, sample 0, length 0, pitch 0, unbounded. Null reads as an empty text.
-  explicit Label(char const* keep);
+  // Reads a keep string: "LABEL_REV:1 pal_label 01:00:00.00 250 0.0400000000 1". Fields that are missing stay as
+  // in a new label: invalid converter, sample 0, length 0, pitch 0, unbounded. A start that cannot be read is the
+  // invalid sample, a number that cannot be read is 0. Null reads as an empty text.
+  Label(char const* keep);
 
   // A copy is of revision 1; assignment keeps the revision. Assignment also goes back to the shared converter of
   // the type.
