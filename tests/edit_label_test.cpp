@@ -133,20 +133,20 @@ TEST(EditLabel, IsValidWithATypeAMediumAndAGeneration) {
 
 TEST(EditLabel, CountsLiveObjects) {
   int const before = EditLabel::howmany;
-  {
-    EditLabel first = on(5, 20);
-    EditLabel const second = first;
   EXPECT_GE(before, 1);  // the invalid one, made or not
   (void)invalid_edit_label();
   EXPECT_EQ(EditLabel::howmany, before);
+  {
+    EditLabel first = on(5, 20);
+    EditLabel const second = first;
     EditLabel const third{"LABEL_REV:1"};
     EXPECT_EQ(EditLabel::howmany, before + 3);
     first = second;
     EXPECT_EQ(EditLabel::howmany, before + 3);
+    first.init(roll(1, 1));
   }
   EXPECT_EQ(EditLabel::howmany, before + 1);  // deliberate: init counts as a constructor does
 }
-    first.init(roll(1, 1));
 
 TEST(EditLabel, IsKeptWithItsRoll) {
   std::array<char, Label::keep_string_size> buffer{};

@@ -129,8 +129,8 @@ MediumRoll::~MediumRoll() = default;
 void MediumRoll::set_reelid(LightweightString<char> const& reel) noexcept { reelid = reel; }
 
 void MediumRoll::fill_from_string(char const* text) {
-  constexpr int revision = 1;
   if (!text) return;
+  constexpr int revision = 1;
   auto const is = [](char const* token, char const* word) { return token && std::strcmp(token, word) == 0; };
 
   tokeniser tokens{text, ": "};

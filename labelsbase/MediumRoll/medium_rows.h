@@ -25,7 +25,7 @@ inline constexpr char const* no_word = "med?";
 
 // clang-format off
 inline constexpr medium_row medium_rows[] = {
-//   medium             name          role         rate                    frames double label type      user word
+//   medium             name          role         rate                    progr. double label type      user word
     {Medium_none,       "none",       role_none,   Kiv::FrameRate_unknown, false, false, null_label_t,   no_word},
     {Medium_any,        "any",        role_none,   Kiv::FrameRate_unknown, false, false, null_label_t,   no_word},
     {Medium_film,       "film",       role_none,   Kiv::FrameRate_unknown, false, false, null_label_t,   "film"},

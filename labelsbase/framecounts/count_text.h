@@ -34,7 +34,7 @@ LABELSBASE_API int film_frames_to_filmtc(int film, char* text) noexcept;
 //
 // Film at 3 perforations a frame (Label_keycode_3perf) has keys of 21, 21 and 22 frames, 64 to three keys, and
 // does not look at `per_key`. `phase` says which this key is: 1 and 2 the short ones, 3 the long one. `phase_out`
-// receives that of the last key before it that is a multiple of three. Other labels leave `phase_out` alone.
+// receives that of the last key at or before it that is a multiple of three. Other labels leave `phase_out` alone.
 LABELSBASE_API int keycode_to_film_frames(int* film, char* text, int phase, int* phase_out, label_type label,
                                           int per_key) noexcept;
 

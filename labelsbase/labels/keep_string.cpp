@@ -24,8 +24,8 @@ constexpr std::size_t header_length = sizeof header - 1;
 
 int number_of(char const* field) noexcept { return text_reader{field}.number().value_or(0); }
 
-// The revision of a first field; 0, which nothing is read of, for a text that is no keep string. Any one character
-// may stand behind the header.
+// Returns the revision in a first field that begins with the header, for example 1 for "LABEL_REV:1"; 0 if it has
+// none. Any one character may stand behind the header.
 int revision_of(char const* field) noexcept {
   return field[header_length] ? number_of(field + header_length + 1) : 0;
 }
