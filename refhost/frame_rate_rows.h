@@ -1,4 +1,4 @@
-// The frame rates that the host knows.
+// The table of the host's frame rates.
 #pragma once
 
 #include <algorithm>
@@ -9,7 +9,7 @@
 
 namespace refhost {
 
-// A rate as a fraction, so that the 1001 rates are the exact quotients: 24000 frames in 1001 seconds.
+// A rate as a fraction: 24000 frames in 1001 seconds.
 struct frame_rate_row {
   Kiv::FrameRate rate;
   std::int32_t frames;
@@ -20,13 +20,13 @@ struct frame_rate_row {
     return static_cast<double>(frames) / seconds;
   }
 
-  // Without the 1000/1001 factor.
+  // Returns frames per second without the 1000/1001 factor.
   [[nodiscard]] constexpr double nominal_frames_per_second() const noexcept {
     return static_cast<double>(frames) / (has_1001_factor() ? 1000 : seconds);
   }
 };
 
-// The first row answers for codes without a row.
+// Codes without a row have the facts of the first.
 // clang-format off
 inline constexpr frame_rate_row frame_rate_rows[] = {
     //          code          frames  seconds
