@@ -180,7 +180,7 @@ TEST(Roll, EqualsWhereItFitsAndTheReelIsOneBuffer) {
 
 TEST(Roll, LivesInTheHostsMemory) {
   auto const before = refhost::allocator_statistics();
-  std::unique_ptr<MediumRoll> roll{new MediumRoll{"REV 1 MediumRollId 28,1 reelid A001"}};
+  std::unique_ptr<MediumRoll> roll{new (std::nothrow) MediumRoll{"REV 1 MediumRollId 28,1 reelid A001"}};
   EXPECT_EQ(refhost::allocator_statistics().live_blocks, before.live_blocks + 2);
   roll.reset();
   EXPECT_EQ(refhost::allocator_statistics().live_blocks, before.live_blocks);

@@ -1,51 +1,73 @@
 #include "labelsbase/MediumRoll/medium.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "host/current_project.h"
+#include "labelsbase/MediumRoll/media_families.h"
 #include "labelsbase/MediumRoll/medium_rows.h"
+#include "labelsbase/labelcvt/rate_facts.h"
 #include "labelsbase/support/broken.h"
 
 using namespace labelsbase;
 
 namespace {
 
-constexpr char medium_roll_module[] = "labelsbase/MediumRoll";
+// Where the assertion messages of this room say that they come from. Hosts know each message by its module and
+// line, so the numbers stay as they are wherever the code moves.
+constexpr char message_module[] = "labelsbase/MediumRoll";
+constexpr int line_of_input_details = 224;
+constexpr int line_of_output_details = 361;
+constexpr int line_of_output_by_rate = 520;
+constexpr int line_of_source_by_rate = 577;
+constexpr int line_of_default_label_type = 696;
 
-struct media_index {
-  static constexpr int roles = role_output + 1;
-  static constexpr int rates = Kiv::FrameRate_239_76 + 1;
+// The sources and outputs by rate and scan, so that finding one takes no search. A rate that has only one scan is
+// entered under both.
+struct media_by_rate {
+  static constexpr int codes = std::end(all_rate_facts)[-1].rate + 1;
 
-  MediumRollMedium media[roles][rates][2];  // progressive last
+  struct scans {
+    MediumRollMedium interlaced, progressive;
+  };
+  scans sources[codes];
+  scans outputs[codes];
 };
 
-// The rows by role, rate and scan, so that finding one is no search. A rate of one scan stands under both.
-constexpr media_index media_by_rate = [] {
-  media_index result{};
+constexpr media_by_rate media = [] {
+  media_by_rate result{};
+  auto const enter = [](MediumRollMedium& own, MediumRollMedium& other, MediumRollMedium medium) {
+    own = medium;
+    if (other == Medium_none) other = medium;
+  };
   for (auto const& row : medium_rows) {
-    if (row.role == role_none) continue;
-    auto& scans = result.media[row.role][row.rate];
-    scans[row.progressive] = row.medium;
-    auto& other_scan = scans[!row.progressive];
-    if (other_scan == Medium_none) other_scan = row.medium;
+    if (row.role == medium_role::general) continue;
+    auto& [interlaced, progressive] =
+        row.role == medium_role::source ? result.sources[row.rate] : result.outputs[row.rate];
+    row.progressive ? enter(progressive, interlaced, row.medium) : enter(interlaced, progressive, row.medium);
   }
   return result;
 }();
 
-// Medium_none for a rate without one.
-MediumRollMedium find_medium(medium_role role, Kiv::FrameRate rate, bool progressive) noexcept {
-  return rate >= 0 && rate < media_index::rates ? media_by_rate.media[role][rate][progressive] : Medium_none;
+// Returns the medium of a rate, or Medium_none if the rate has none.
+MediumRollMedium find_medium(media_by_rate::scans const (&by_rate)[media_by_rate::codes], Kiv::FrameRate rate,
+                             bool progressive) noexcept {
+  if (rate < 0 || rate >= media_by_rate::codes) return Medium_none;
+  return progressive ? by_rate[rate].progressive : by_rate[rate].interlaced;
 }
 
 bool is_progressive(Kiv::Image::ScanMode scan) noexcept {
   return scan == Kiv::Image::ScanMode_progressive || scan == Kiv::Image::ScanMode_segmented_frame;
 }
 
+// The output of a measured rate, in frames per second. Deliberate: a bound that two rows share, 23.99 for example,
+// is in neither.
 struct measured_rate_row {
   double above_fps;
   double below_fps;
   MediumRollMedium medium;
 };
 
-// Deliberate: bounds that two rows share, 23.99 among them, are in neither.
 // clang-format off
 constexpr measured_rate_row measured_rate_rows[] = {
     {23.0,  23.99, Medium_out_2398p},
@@ -59,6 +81,34 @@ constexpr measured_rate_row measured_rate_rows[] = {
 };
 // clang-format on
 
+// The media of a project.
+struct project_row {
+  Kiv::FrameRate rate;
+  MediumRollMedium edit;
+  MediumRollMedium playout;
+};
+
+// Deliberate: 29.97 edits in the fields of 30, and 59.94 in the frames of 60; 50 plays out in the fields of 25,
+// and 30, 59.94 and 60 in those of 29.97.
+// clang-format off
+constexpr project_row project_rows[] = {
+//   project                edits in        plays out in
+    {Kiv::FrameRate_25,     Medium_src_25i, Medium_out_25i},
+    {Kiv::FrameRate_30,     Medium_src_30i, Medium_out_2997i},
+    {Kiv::FrameRate_29_97,  Medium_src_30i, Medium_out_2997i},
+    {Kiv::FrameRate_50,     Medium_src_50p, Medium_out_25i},
+    {Kiv::FrameRate_60,     Medium_src_60p, Medium_out_2997i},
+    {Kiv::FrameRate_59_94,  Medium_src_60p, Medium_out_2997i},
+};
+constexpr project_row other_projects =
+    {Kiv::FrameRate_unknown, Medium_src_24i, Medium_out_24i};
+// clang-format on
+
+project_row const& project_row_of(Kiv::FrameRate rate) noexcept {
+  auto const* const row = std::ranges::find(project_rows, rate, &project_row::rate);
+  return row == std::end(project_rows) ? other_projects : *row;
+}
+
 }  // namespace
 
 namespace labelsbase {
@@ -71,7 +121,11 @@ Kiv::FrameRate getFrameRatefromMedium(MediumRollMedium medium) noexcept { return
 
 bool mediumRollIsFrameProgressive(MediumRollMedium medium) noexcept { return row_of(medium).progressive; }
 
-bool mediumIsDoubleRateProgressive(MediumRollMedium medium) noexcept { return row_of(medium).double_rate; }
+bool mediumIsDoubleRateProgressive(MediumRollMedium medium) noexcept {
+  auto const& row = row_of(medium);
+  int const family = family_fps(row);
+  return family != 0 && facts_of(row.rate).nominal_fps == 2 * family;
+}
 
 double getSampleDurationFromMedium(MediumRollMedium medium) {
   auto const& row = row_of(medium);
@@ -80,8 +134,8 @@ double getSampleDurationFromMedium(MediumRollMedium medium) {
 }
 
 label_t getDefaultLabelTypeForMedium(MediumRollMedium medium) noexcept {
-  label_t const type = row_of(medium).label_type;
-  if (type == null_label_t) broken("false", medium_roll_module, 696);
+  label_t const type = facts_of(row_of(medium).rate).timecode_type;
+  if (type == null_label_t) broken("false", message_module, line_of_default_label_type);
   return type;
 }
 
@@ -90,14 +144,14 @@ label_t getLabelTypeForMediumFrameRate(MediumRollMedium medium) noexcept {
 }
 
 MediumRollMedium getMediumRollfromInputDetails(Kiv::Image::ScanMode scan, Kiv::FrameRate rate) {
-  auto const medium = find_medium(role_source, Kiv::getNonDecimatedFrameRate(rate), is_progressive(scan));
-  if (medium == Medium_none) broken("0", medium_roll_module, 224);
+  auto const medium = find_medium(media.sources, Kiv::getNonDecimatedFrameRate(rate), is_progressive(scan));
+  if (medium == Medium_none) broken("0", message_module, line_of_input_details);
   return medium;
 }
 
 MediumRollMedium getMediumRollfromOutputDetails(Kiv::Image::ScanMode scan, Kiv::FrameRate rate) noexcept {
-  auto const medium = find_medium(role_output, rate, is_progressive(scan));
-  if (medium == Medium_none) broken("0", medium_roll_module, 361);
+  auto const medium = find_medium(media.outputs, rate, is_progressive(scan));
+  if (medium == Medium_none) broken("0", message_module, line_of_output_details);
   return medium;
 }
 
@@ -113,51 +167,25 @@ MediumRollMedium getMediumRollfromOutputFramerateDouble(double fps) noexcept {
 }
 
 MediumRollMedium getOutputMediumfromFrameRate(Kiv::FrameRate rate) noexcept {
-  auto const medium = find_medium(role_output, rate, true);
+  auto const medium = find_medium(media.outputs, rate, true);
   if (medium != Medium_none) return medium;
-  broken("false", medium_roll_module, 520);
+  broken("false", message_module, line_of_output_by_rate);
   return Medium_out_24p;
 }
 
 MediumRollMedium getRepresentativeSourceMediumfromFrameRate(Kiv::FrameRate rate) noexcept {
-  auto const medium = find_medium(role_source, rate, true);
+  auto const medium = find_medium(media.sources, rate, true);
   if (medium != Medium_none) return medium;
-  broken("false", medium_roll_module, 577);
+  broken("false", message_module, line_of_source_by_rate);
   return Medium_src_24p;
 }
 
-MediumRollMedium getDefaultEditMediumForProject(Kiv::FrameRate rate) noexcept {
-  switch (rate) {
-    case Kiv::FrameRate_25:
-      return Medium_src_25i;
-    case Kiv::FrameRate_30:
-    case Kiv::FrameRate_29_97:
-      return Medium_src_30i;
-    case Kiv::FrameRate_50:
-      return Medium_src_50p;
-    case Kiv::FrameRate_60:
-    case Kiv::FrameRate_59_94:
-      return Medium_src_60p;
-    default:
-      return Medium_src_24i;
-  }
-}
+MediumRollMedium getDefaultEditMediumForProject(Kiv::FrameRate rate) noexcept { return project_row_of(rate).edit; }
 
 MediumRollMedium getDefaultEditMediumForProject() {
   return getDefaultEditMediumForProject(Kiv::CurrentProject::getFrameRate(0));
 }
 
 MediumRollMedium getDefaultEditPlayoutMediumForProject() {
-  switch (Kiv::CurrentProject::getFrameRate(0)) {
-    case Kiv::FrameRate_25:
-    case Kiv::FrameRate_50:
-      return Medium_out_25i;
-    case Kiv::FrameRate_30:
-    case Kiv::FrameRate_29_97:
-    case Kiv::FrameRate_60:
-    case Kiv::FrameRate_59_94:
-      return Medium_out_2997i;
-    default:
-      return Medium_out_24i;
-  }
+  return project_row_of(Kiv::CurrentProject::getFrameRate(0)).playout;
 }

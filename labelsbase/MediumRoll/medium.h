@@ -8,12 +8,16 @@
 #include "labelsbase/export.h"
 #include "labelsbase/labelcvt/label_types.h"
 
-// A medium. The numbers are stored in identifier texts and never change. Any 32-bit value may be handed in.
+// A medium. The numbers are stored in identifier texts and never change. Callers may hand in any 32-bit value.
 //
-// From 15 on a medium is a rate, a scan (p, whole frames, or i, fields) and a role: a source that material is
-// captured on, or an output that an edit is played out to. A "b" marks the second rate of one nominal rate.
+// Media 0 to 14 are general: they have no rate, and mediumRollIsFrameProgressive is false for them. From 15 on,
+// the name of a medium says its role, rate and scan:
+//
+//   Medium_src_2997i    a source, which material is captured on; 29.97; interlaced: a sample is a field
+//   Medium_out_24p      an output, which an edit is played out to; 24; progressive: a sample is a frame
+//   Medium_src_120pb    "b" marks the second rate of one nominal rate: 119.88 beside 120
 enum MediumRollMedium : std::int32_t {
-  Medium_none = 0,  // no medium: what lookups give on failure
+  Medium_none = 0,  // no medium; what lookups return on failure
   Medium_any = 1,   // matches every medium
   Medium_film,
   Medium_video,
@@ -86,65 +90,73 @@ enum MediumRollMedium : std::int32_t {
   Medium_out_240pb,
 };
 
-// What a medium is. A general medium (below 15) and a value without a medium have no rate and are not progressive.
+// Each of these takes any value; values that are not a medium count as general media.
 
-// The host's code of its frame rate; 0 where it has none.
+// Returns the host's code of the frame rate, or FrameRate_unknown (0) for general media.
 [[nodiscard]] LABELSBASE_API Kiv::FrameRate getFrameRatefromMedium(MediumRollMedium medium) noexcept;
 
-// Whether a sample is a whole frame. Of an interlaced medium it is a field.
+// Returns whether a sample is a whole frame; false for interlaced media, whose samples are fields, and for general
+// media.
 [[nodiscard]] LABELSBASE_API bool mediumRollIsFrameProgressive(MediumRollMedium medium) noexcept;
 
-// Whether it has 50 or 60 whole frames a second, twice those of interlaced video.
+// Returns whether the medium has 50 or 60 (59.94) whole frames a second, twice the frames of interlaced video.
 [[nodiscard]] LABELSBASE_API bool mediumIsDoubleRateProgressive(MediumRollMedium medium) noexcept;
 
-// Seconds per sample, by the host's frame duration. Where there is no rate, half of what the host answers for 0.
+// Returns the seconds per sample: the host's frame duration, or half of it for a field. General media return half
+// of the host's duration for rate code 0.
 [[nodiscard]] LABELSBASE_API double getSampleDurationFromMedium(MediumRollMedium medium);
 
-// The type of the medium's timecode; null_label_t and the assertion message where there is no rate.
+// Returns the type of the medium's timecode: tc_24_label_t for Medium_src_2398p. General media print the assertion
+// message and return null_label_t. The two functions are the same.
 [[nodiscard]] LABELSBASE_API label_t getDefaultLabelTypeForMedium(MediumRollMedium medium) noexcept;
 [[nodiscard]] LABELSBASE_API label_t getLabelTypeForMediumFrameRate(MediumRollMedium medium) noexcept;
 
-// The medium of a rate. Scan modes 3 and 4 are progressive, all others interlaced; a rate that has one scan only
-// gives that one. For a rate without a medium: the assertion message, and the medium named last.
-
-// The source of captured material; Medium_none. The host first turns the rate into its non-decimated one.
+// Returns the source medium for captured material, or Medium_none and the assertion message if the rate has no
+// medium. Scan modes 3 and 4 are progressive and all others interlaced; a rate with one scan returns its medium
+// for both. The host first replaces a decimated rate by the full one.
+//
+//   getMediumRollfromInputDetails(Kiv::Image::ScanMode_progressive, Kiv::FrameRate_25)   // Medium_src_25p
 [[nodiscard]] LABELSBASE_API MediumRollMedium getMediumRollfromInputDetails(Kiv::Image::ScanMode scan,
                                                                             Kiv::FrameRate rate);
 
-// The output of a picture; Medium_none. Deliberate: the rate counts as it stands, decimated or not.
+// Returns the output medium of a picture, by the same rules. Deliberate: a decimated rate is not replaced.
 [[nodiscard]] LABELSBASE_API MediumRollMedium getMediumRollfromOutputDetails(Kiv::Image::ScanMode scan,
                                                                              Kiv::FrameRate rate) noexcept;
+
+// Returns the output medium of a format's scan mode and frame rate.
 [[nodiscard]] LABELSBASE_API MediumRollMedium getMediumRollfromOutputFormat(OutputFormat::Details const& format);
 
-// The output of a measured rate in frames per second, always progressive: 23.976, 24, 25, 29.97, 30, 50, 59.94 or
-// 60, within a tenth or so. Any other value, not a number included, gives Medium_out_24p without a message.
+// Returns the progressive output of a measured rate in frames per second: 23.976, 24, 25, 29.97, 30, 50, 59.94 or
+// 60, within a tenth or so. Any other value, NaN included, returns Medium_out_24p without a message.
 [[nodiscard]] LABELSBASE_API MediumRollMedium getMediumRollfromOutputFramerateDouble(double fps) noexcept;
 
-// The progressive output; Medium_out_24p.
+// Returns the progressive output of a rate, or Medium_out_24p and the assertion message if the rate has no medium.
 [[nodiscard]] LABELSBASE_API MediumRollMedium getOutputMediumfromFrameRate(Kiv::FrameRate rate) noexcept;
 
-// The progressive source; Medium_src_24p.
+// Returns the progressive source of a rate, or Medium_src_24p and the assertion message if the rate has no medium.
 [[nodiscard]] LABELSBASE_API MediumRollMedium
 getRepresentativeSourceMediumfromFrameRate(Kiv::FrameRate rate) noexcept;
 
-// The medium that a project of this rate edits in, and the one of the current project. Deliberate: 29.97 edits in
-// the 30 frame fields, 59.94 in the 60 frames, and 48 and all the rest in the 24 frame fields.
+// Returns the source medium that a project of this rate edits in; Medium_src_24i for all rates but 25, 30, 29.97,
+// 50, 60 and 59.94. Without a rate, that of the current project. Deliberate: 29.97 edits in the 30 frame fields,
+// 59.94 in the 60 frames and 48 in the 24 frame fields.
 [[nodiscard]] LABELSBASE_API MediumRollMedium getDefaultEditMediumForProject(Kiv::FrameRate rate) noexcept;
 [[nodiscard]] LABELSBASE_API MediumRollMedium getDefaultEditMediumForProject();
 
-// The medium that the current project plays out in, one of three. Deliberate: 50 frames play out as 25 interlaced,
-// and 30, 59.94 and 60 as 29.97 interlaced.
+// Returns the output medium that the current project plays out in: the fields of 25 for 25 and 50 frames a second,
+// those of 29.97 for 30, 29.97, 60 and 59.94, and those of 24 for all other rates.
 [[nodiscard]] LABELSBASE_API MediumRollMedium getDefaultEditPlayoutMediumForProject();
 
 namespace labelsbase {
 
 inline constexpr int medium_count = Medium_out_240pb + 1;
 
+// Returns whether the value is from 0 to medium_count - 1.
 [[nodiscard]] constexpr bool is_medium(MediumRollMedium medium) noexcept {
   return medium >= 0 && medium < medium_count;
 }
 
-// The name of the medium, for example "film" or "src_2398p"; "" for a value without a meaning.
+// Returns the name of the medium, for example "film" or "src_2398p", or "" for a value without a meaning.
 [[nodiscard]] LABELSBASE_API char const* medium_name(MediumRollMedium medium) noexcept;
 
 }  // namespace labelsbase

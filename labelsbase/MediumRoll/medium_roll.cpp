@@ -7,7 +7,6 @@
 #include "host/config.h"
 #include "host/tokeniser.h"
 #include "labelsbase/MediumRoll/medium_rows.h"
-#include "labelsbase/support/memory.h"
 #include "labelsbase/support/text.h"
 
 using namespace labelsbase;
@@ -16,7 +15,7 @@ namespace {
 
 constinit MediumRollIdent const invalid_ident{};
 
-// Built by the compiler and never destroyed, so it serves the static objects of host and library in any order.
+// The compiler builds it and nothing destroys it, so static objects of host and library may use it in any order.
 union invalid_roll_storage {
   MediumRoll roll;
 
@@ -26,7 +25,7 @@ union invalid_roll_storage {
 
 constinit invalid_roll_storage const invalid_roll;
 
-// By generation.
+// The words by generation.
 constexpr char const* generation_words[] = {"gen?", "anyGen", "1stGen", "2ndGen", "3rdGen", "4thGen"};
 
 char const* generation_word(MediumRollGeneration generation) noexcept {
@@ -34,7 +33,7 @@ char const* generation_word(MediumRollGeneration generation) noexcept {
   return generation_words[is_known ? generation : Gen_unknown];
 }
 
-// The generation that a text without one means.
+// Returns the generation of a text that names none.
 MediumRollGeneration default_generation(MediumRollMedium medium) noexcept {
   if (medium == Medium_video) return Gen_1st;
   if (medium == Medium_audio) return Gen_2nd;
@@ -61,13 +60,13 @@ bool accepts(MediumRollMedium asked, MediumRollMedium other) noexcept {
   if (asked == Medium_any || asked == other) return true;
   if (other == Medium_out_24p && (asked == Medium_out_2398p || asked == Medium_out_2398i)) return true;
 
-  // 24 frame film stands for the source when it asks, and for the output on both sides.
+  // film24 counts as the source only if it asks; film24_out counts as the output on both sides.
   if (asked == Medium_film24) asked = Medium_src_24p;
   if (asked == Medium_film24_out) asked = Medium_out_24p;
   if (other == Medium_film24_out) other = Medium_out_24p;
   auto const& a = row_of(asked);
   auto const& b = row_of(other);
-  return a.role != role_none && a.role == b.role && a.rate == b.rate;
+  return a.role != medium_role::general && a.role == b.role && a.rate == b.rate;
 }
 
 }  // namespace
@@ -150,6 +149,3 @@ bool MediumRoll::operator==(MediumRoll const& other) const noexcept {
 }
 
 bool MediumRoll::operator!=(MediumRoll const& other) const noexcept { return !(*this == other); }
-
-void* MediumRoll::operator new(std::size_t bytes) { return host_allocate(bytes); }
-void MediumRoll::operator delete(void* block) noexcept { host_free(block); }

@@ -1,4 +1,14 @@
-// On what material lives: identifiers of a medium and a generation, and rolls of such with a reel.
+// What material is on: identifiers of a medium and a generation, and rolls, which have a reel too.
+//
+//   text                                         field        written      read
+//   28,1                                         medium       any int      1 to 70, up to two characters
+//                                                generation   any int      1 to 5, one character; see
+//                                                                          MediumRollId_from_string
+//   REV: 1 MediumRollId: 28,1 reelid: A001       reel         by hosts     one word; may be missing
+//
+//   MediumRollIdent{Medium_film24, Gen_any}.MediumRollId_fits_this({Medium_src_24p, Gen_1st})   // 1
+//   MediumRollId_to_UserString({Medium_src_24p, Gen_1st})                                       // "24p,1stGen"
+//   MediumRoll{"REV: 1 MediumRollId: 28,1 reelid: A001"}.reelid.c_str()                         // "A001"
 #pragma once
 
 #include <cstddef>
@@ -7,11 +17,13 @@
 #include "host/lightweight_string.h"
 #include "labelsbase/MediumRoll/medium.h"
 #include "labelsbase/export.h"
+#include "labelsbase/host_allocated.h"
 
 class configb;
 class tokeniser;
 
-// How many copies away from the original. The numbers are stored; any 32-bit value may be handed in.
+// How many copies the material is away from the original. Hosts store the numbers. Callers may hand in any 32-bit
+// value.
 enum MediumRollGeneration : std::int32_t {
   Gen_unknown = 0,  // makes an identifier invalid
   Gen_any = 1,      // matches every generation
@@ -21,92 +33,92 @@ enum MediumRollGeneration : std::int32_t {
   Gen_4th,
 };
 
-// A medium and a generation; invalid when either is 0.
+// A medium and a generation. It is invalid if either is 0.
 struct LABELSBASE_API MediumRollIdent {
   MediumRollMedium medium = Medium_none;
   MediumRollGeneration generation = Gen_unknown;
 
-  // 1 when `other` will do where this one is asked for, else 0. Any accepts all; the progressive and the
-  // interlaced medium of one rate and role accept each other. An invalid identifier neither fits nor accepts.
+  // Returns 1 if `other` can stand where this one is asked for, otherwise 0. Medium_any and Gen_any accept all.
+  // The progressive and the interlaced medium of one rate and role accept each other. An invalid identifier
+  // neither fits nor accepts.
   //
-  // Deliberately one-sided: 24 frame film accepts the 24 frame sources, which do not accept it, and the 23.976
+  // Deliberately one-sided: 24 frame film accepts the 24 frame sources, but they do not accept it; the 23.976
   // outputs accept the progressive 24 frame output.
   [[nodiscard]] int MediumRollId_fits_this(MediumRollIdent const& other) const noexcept;
 };
 
 namespace labelsbase {
 
-// Characters of the longest identifier text, "-2147483648,-2147483648", the terminator included.
+// Characters of the longest identifier text, "-2147483648,-2147483648", including the terminator.
 inline constexpr int identifier_text_size = 24;
 
 }  // namespace labelsbase
 
-// "MediumRollId": the keyword before an identifier in a stored roll.
+// Returns "MediumRollId", the keyword before an identifier in a stored roll.
 [[nodiscard]] LABELSBASE_API char const* MediumRollId_name_str() noexcept;
 
-// Writes an identifier, for example "28,1", and gives the number of its characters. The buffer has room for
-// labelsbase::identifier_text_size; a null one is not written to.
+// Writes an identifier, for example "28,1", and returns the number of its characters. The buffer holds at least
+// labelsbase::identifier_text_size characters; a null buffer is not written to.
 LABELSBASE_API int MediumRollId_to_string(char* buffer, MediumRollIdent const& ident) noexcept;
 
-// Reads an identifier: a medium of at most two characters, 1 to 70, a comma, and a generation of one digit, 1 to
-// 5; {0, 0} for other numbers, and when there is none. Where no generation can be read, or a 0, video has the
-// first, audio the second, and all else any; and the ink family then turns the medium into Medium_ink.
+// Reads an identifier. `out` becomes {0, 0} if the medium is not from 1 to 70 or the generation not from 0 to 5. A
+// generation that is missing or 0 becomes the first for video, the second for audio and any for all other media;
+// only then, User_ink turns the medium into Medium_ink. A null text reads as an empty one.
+//
+//   medium ("," generation)?   each: blank* ("+" | "-")? digit+, in up to 2 characters and 1
 LABELSBASE_API void MediumRollId_from_string(char const* text, MediumRollIdent& out,
                                              UserLabelType family) noexcept;
 
-// Takes the next token and reads it, for no particular family; {0, 0} when none is left.
+// Reads the next token likewise, for no family. `out` becomes {0, 0} if no token is left.
 LABELSBASE_API void MediumRollId_from_tokens(tokeniser& tokens, MediumRollIdent& out);
 
-// What users read, for example "24p,1stGen"; "med?" and "gen?" stand for what has no word. The text is good until
-// the next call in the same thread.
+// Returns the text for users, for example "24p,1stGen". Media without a word read "med?", generations "gen?". The
+// text is valid until the next call in the same thread.
 [[nodiscard]] LABELSBASE_API char const* MediumRollId_to_UserString(MediumRollIdent const& ident) noexcept;
 
-// {0, 0}. It may be asked for at any time, also while static objects are built and destroyed.
+// Returns {0, 0}. Static objects may call this while they are built and destroyed.
 [[nodiscard]] LABELSBASE_API MediumRollIdent const& get_invalid_MediumRollIdent() noexcept;
 
-// A roll of film or tape: an identifier, and a reel that has its name. Both sides may make and delete rolls.
-class LABELSBASE_API MediumRoll {
+// A roll of film or tape: an identifier, and the name of a reel. Both host and library may make and delete rolls.
+class LABELSBASE_API MediumRoll : public labelsbase::host_allocated {
  public:
   MediumRollIdent ident;
-  LightweightString<char> reelid;  // empty for no reel
+  LightweightString<char> reelid;  // empty if there is no reel
 
+  // A roll without a reel.
   constexpr MediumRoll(MediumRollMedium medium, MediumRollGeneration generation) noexcept
       : MediumRoll{MediumRollIdent{medium, generation}} {}
   constexpr MediumRoll(MediumRollIdent const& identifier) noexcept : ident{identifier} {}
 
-  // {0, 0} without a reel, then fill_from_string.
+  // Starts as {0, 0} without a reel, then fills from the text. A null text changes nothing.
   MediumRoll(char const* text);
 
-  // The roll that is stored under "MediumRoll" and the key, for example "MediumRoll28,1". {0, 0} without a reel
-  // when there is none; the key itself is not copied.
+  // Fills from the text that the configuration keeps under "MediumRoll" and the key, "MediumRoll28,1" for example.
+  // Without such a text, or with a null configuration, the roll is {0, 0} without a reel. The key is not copied.
   MediumRoll(MediumRollIdent const& key, configb* config);
 
-  // The copy has a reel buffer of its own, so a copy of a roll with a reel does not equal it. Assignment shares
-  // the buffer, as set_reelid does.
+  // A copy has a reel buffer of its own, so a roll with a reel does not equal its copy. Assignment shares the
+  // buffer, as set_reelid does.
   MediumRoll(MediumRoll const& other) noexcept;
   MediumRoll& operator=(MediumRoll const& other) noexcept = default;
 
   virtual ~MediumRoll();
 
-  // Shares the given string's buffer.
+  // Shares the buffer of the given string.
   void set_reelid(LightweightString<char> const& reel) noexcept;
 
-  // Reads a stored roll: "REV: 1 MediumRollId: 28,1 reelid: A001", where colons and blanks separate and the reel
-  // may be missing, which leaves the one there is. Other texts change nothing; an identifier that cannot be read
-  // becomes {0, 0}, and the reel is read all the same.
+  // Reads a stored roll. A text that does not begin like one changes nothing. An identifier that cannot be read
+  // becomes {0, 0}, and the reel is read all the same; a missing reel leaves the old one.
+  //
+  //   "REV" 1 "MediumRollId" identifier ("reelid" word)?   separated by any number of blanks and colons
   void fill_from_string(char const* text);
 
-  // Whether the reels are one buffer (or both none) and the other's identifier fits this one's. Deliberate: equal
-  // texts in two buffers differ, order matters as it does in fitting, and an invalid roll does not equal itself.
+  // Returns whether both reels share one buffer (or both have none) and the identifier of `other` fits this one's.
+  // Deliberate: equal names in two buffers differ, the order of the operands matters, and an invalid roll does not
+  // equal itself.
   [[nodiscard]] bool operator==(MediumRoll const& other) const noexcept;
   [[nodiscard]] bool operator!=(MediumRoll const& other) const noexcept;
-
-  // Rolls of either side come from the host's allocator and go back to it, whoever deletes them.
-  static void* operator new(std::size_t bytes);
-  static void* operator new(std::size_t, void* place) noexcept { return place; }
-  static void operator delete(void* block) noexcept;
-  static void operator delete(void*, void*) noexcept {}
 };
 
-// {0, 0} without a reel. It may be asked for at any time, also while static objects are built and destroyed.
+// Returns {0, 0} without a reel. Static objects may call this while they are built and destroyed.
 [[nodiscard]] LABELSBASE_API MediumRoll const& invalid_MediumRoll() noexcept;

@@ -1,4 +1,4 @@
-// The table of speeds: what a timecode counts on which medium.
+// The table of speeds: at which rate timecode runs on which medium.
 #pragma once
 
 #include <algorithm>
@@ -6,20 +6,31 @@
 #include <span>
 
 #include "labelsbase/MediumRoll/medium.h"
+#include "labelsbase/labelcvt/label_facts.h"
 #include "labelsbase/labelcvt/label_types.h"
 
 namespace labelsbase {
 
 struct pitch_row {
   label_t type;
-  double pitch;                          // seconds per sample on most media
-  std::span<MediumRollMedium const> at;  // the media at another speed
-  double pitch_there;
-  bool film_at_24;  // whether the type counts 24 frames a second on film
-  int sound_fps;    // frames a second that sound in sync is labelled at
+  bool is_slow;                              // on most media it runs slower than it counts, by 1000/1001
+  std::span<MediumRollMedium const> others;  // the media where that is the other way round
+  bool film_at_24;                           // counts 24 frames a second on film
+  bool sound_at_own_rate;                    // sound in sync counts the type's frames a second, otherwise 24
+
+  [[nodiscard]] constexpr int frames_per_second() const noexcept {
+    return facts_of(type).timecode.frames_per_second;
+  }
+
+  // Returns seconds per sample.
+  [[nodiscard]] constexpr double pitch_on(MediumRollMedium medium) const noexcept {
+    if (film_at_24 && medium == Medium_film) return 1.0 / 24;
+    bool const is_other = std::ranges::find(others, medium) != others.end();
+    return is_slow != is_other ? 1001.0 / (frames_per_second() * 1000) : 1.0 / frames_per_second();
+  }
 };
 
-// Media at whole rates, where most run slower by 1000/1001, and the other way round.
+// The media where a type runs at its whole rate, while most run slower by 1000/1001, and the other way round.
 inline constexpr MediumRollMedium at_30[] = {
     Medium_audio,   Medium_src_30p,  Medium_src_30i,  Medium_src_60p,  Medium_out_30p,  Medium_out_30i,
     Medium_out_60p, Medium_src_120p, Medium_src_240p, Medium_out_120p, Medium_out_240p,
@@ -33,27 +44,27 @@ inline constexpr MediumRollMedium at_23_976[] = {Medium_src_2398p, Medium_src_23
 inline constexpr MediumRollMedium at_119_88[] = {Medium_src_120pb, Medium_out_120pb};
 inline constexpr MediumRollMedium at_239_76[] = {Medium_src_240pb, Medium_out_240pb};
 
-// Deliberate: 120 and 240 frame timecode keeps its rate on film, and 24 frame timecode has the same there anyway.
+// Deliberate: 120 and 240 frame timecode keeps its rate on film.
 // clang-format off
 inline constexpr pitch_row pitch_rows[] = {
-//  type                    pitch           at         pitch there     film at 24  sound fps
-    {pal_label_t,           1.0 / 25,       {},        0.0,            true,       25},
-    {ntsc_label_t,          1001.0 / 30000, at_30,     1.0 / 30,       true,       30},
-    {ntsc_drop_label_t,     1001.0 / 30000, at_30,     1.0 / 30,       true,       30},
-    {tc_24_label_t,         1.0 / 24,       at_23_976, 1001.0 / 24000, false,      24},
-    {tc_48_label_t,         1.0 / 48,       at_47_952, 1001.0 / 48000, true,       24},
-    {tc_50_label_t,         1.0 / 50,       {},        0.0,            true,       50},
-    {tc_60_label_t,         1001.0 / 60000, at_60,     1.0 / 60,       true,       60},
-    {tc_50_duration_label_t,1.0 / 50,       {},        0.0,            true,       50},
-    {tc_60_duration_label_t,1001.0 / 60000, at_60,     1.0 / 60,       true,       60},
-    {tc_12_label_t,         1.0 / 12,       at_11_988, 1001.0 / 12000, true,       24},
-    {tc_15_label_t,         1.0 / 15,       at_14_985, 1001.0 / 15000, true,       24},
-    {tc_120_label_t,        1.0 / 120,      at_119_88, 1001.0 / 120000, false,     24},
-    {tc_240_label_t,        1.0 / 240,      at_239_76, 1001.0 / 240000, false,     24},
+//   type                     slow   others     film at 24  sound at own rate
+    {pal_label_t,             false, {},        true,       true},
+    {ntsc_label_t,            true,  at_30,     true,       true},
+    {ntsc_drop_label_t,       true,  at_30,     true,       true},
+    {tc_24_label_t,           false, at_23_976, false,      true},
+    {tc_48_label_t,           false, at_47_952, true,       false},
+    {tc_50_label_t,           false, {},        true,       true},
+    {tc_60_label_t,           true,  at_60,     true,       true},
+    {tc_50_duration_label_t,  false, {},        true,       true},
+    {tc_60_duration_label_t,  true,  at_60,     true,       true},
+    {tc_12_label_t,           false, at_11_988, true,       false},
+    {tc_15_label_t,           false, at_14_985, true,       false},
+    {tc_120_label_t,          false, at_119_88, false,      false},
+    {tc_240_label_t,          false, at_239_76, false,      false},
 };
 // clang-format on
 
-// The row of a type; null for types whose pitch no medium changes.
+// Returns the row of a type, or null if no medium changes its pitch.
 [[nodiscard]] constexpr pitch_row const* pitch_row_of(label_t type) noexcept {
   auto const* const row = std::ranges::find(pitch_rows, type, &pitch_row::type);
   return row == std::end(pitch_rows) ? nullptr : row;
