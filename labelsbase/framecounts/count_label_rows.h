@@ -1,4 +1,4 @@
-// The label types that frame counts know: one row a number.
+// The table of the label types that frame counts know: one row a number.
 #pragma once
 
 #include <algorithm>
@@ -8,6 +8,7 @@
 #include <iterator>
 
 #include "labelsbase/framecounts/count_types.h"
+#include "labelsbase/support/enumerators.h"
 
 namespace labelsbase {
 
@@ -17,7 +18,7 @@ struct count_label_row {
   label_type label;
   text_form form;
   int frames_per_second;  // of timecode
-  int units_per_frame;    // of a key number: 4 where it counts perforations after the key, 1 where frames
+  int units_per_frame;    // of a key number: 4 if it counts perforations after the key, 1 if it counts frames
 };
 
 // clang-format off
@@ -51,20 +52,32 @@ inline constexpr count_label_row count_label_rows[] = {
 };
 // clang-format on
 
-// Rising, so no number stands twice.
 static_assert(std::ranges::adjacent_find(count_label_rows, std::ranges::greater_equal{},
-                                         &count_label_row::label) == std::end(count_label_rows));
+                                         &count_label_row::label) == std::end(count_label_rows),
+              "the rows are in the order of the numbers, each once");
 
-// By number; the last row is empty, for all numbers that have none.
+// The rows by number, and an empty row for all numbers without one behind them.
 inline constexpr auto count_label_rows_by_number = [] {
   std::array<count_label_row, static_cast<std::size_t>(std::end(count_label_rows)[-1].label) + 2> rows{};
   for (auto const& row : count_label_rows) rows[static_cast<std::size_t>(row.label)] = row;
   return rows;
 }();
 
+// Returns the row of a label type; one of unknown form for a number without a row.
 [[nodiscard]] constexpr count_label_row const& count_label_row_of(label_type label) noexcept {
-  constexpr auto none = count_label_rows_by_number.size() - 1;
-  return count_label_rows_by_number[std::min(static_cast<std::size_t>(static_cast<unsigned>(label)), none)];
+  constexpr auto empty_row = count_label_rows_by_number.size() - 1;
+  return count_label_rows_by_number[std::min(static_cast<std::size_t>(static_cast<unsigned>(label)), empty_row)];
 }
+
+// The compiler names the label type at fault as the argument of this template.
+template <label_type first_at_fault>
+struct every_count_label_has_its_row {
+  static_assert(!is_enumerator<first_at_fault>(), "this label type lacks its row in count_label_rows.h");
+  static constexpr bool holds = true;
+};
+
+constexpr bool has_row(label_type label) noexcept { return count_label_row_of(label).form != text_form::unknown; }
+
+static_assert(every_count_label_has_its_row<first_enumerator_without<label_type, 64>(has_row)>::holds);
 
 }  // namespace labelsbase

@@ -4,68 +4,54 @@
 
 #include <cstdint>
 
+#include "labelsbase/counts/timecode_count.h"
 #include "labelsbase/framecounts/count_label_rows.h"
 #include "labelsbase/framecounts/pulldown.h"
-#include "labelsbase/support/drop_frame.h"
 #include "labelsbase/support/text.h"
 
 using namespace labelsbase;
 
 namespace {
 
-// How timecode counts.
-struct timecode_count {
-  int frames_per_second;
-  bool drops_frames;
-
-  [[nodiscard]] constexpr int hour() const noexcept {
-    return drops_frames ? drop_frame::hour : frames_per_second * 3600;
-  }
-};
-
-constexpr timecode_count film_count{24, false};
+constexpr timecode_count film_count{24};
 
 constexpr timecode_count count_of(count_label_row const& row, int drop) noexcept {
-  return {row.frames_per_second, drop != 0 && row.frames_per_second == 30};
+  return timecode_count{row.frames_per_second, drop != 0 && row.frames_per_second == 30};
 }
 
-// The frame of "hhmmssff".
-int read_timecode(char const* text, timecode_count count) noexcept {
-  int hours = 0;
-  int minutes = 0;
-  int seconds = 0;
-  int frames = 0;
+// Returns the frame of a timecode text, from 1. Any text can be read; fields that are missing are 0.
+//
+//   hh mm ss ff: blank* ("+" | "-")? digit+, in up to two characters after the blanks
+int read_timecode(char const* text, timecode_count const& count) noexcept {
+  int fields[4] = {};
   text_reader in{text};
-  for (int* field : {&hours, &minutes, &seconds, &frames}) {
+  for (int& field : fields) {
     auto const number = in.number(2);
     if (!number) break;
-    *field = *number;
+    field = *number;
   }
 
-  // Deliberate: the labels that drop-frame leaves out are read too, as the last two frames of the minute before.
-  int const minute =
-      count.drops_frames ? drop_frame::minute_start(minutes) : minutes * 60 * count.frames_per_second;
-  return hours * count.hour() + minute + seconds * count.frames_per_second + frames + 1;
+  // Deliberate: the labels that drop-frame leaves out are read too, as the last two frames of the minute before. A
+  // minute below 0 counts 1798 frames.
+  auto const [hours, minutes, seconds, frames] = fields;
+  int const left_out = count.is_drop_frame() && minutes % 10 < 0 ? 2 : 0;
+  return count.join({hours, minutes, seconds, frames}) + left_out + 1;
 }
 
-// "hhmmssff" of a frame: 1 when written, 0 for what 8 digits cannot show.
-int write_timecode(char* text, int frame_number, timecode_count count) noexcept {
-  std::int64_t const hour = count.hour();
+// Writes the timecode of a frame as hhmmssff. A frame up to a day out of the day moves into it. Returns 1, or 0
+// for a frame that 8 digits cannot show.
+int write_timecode(char* text, int frame_number, timecode_count const& count) noexcept {
+  auto const day = std::int64_t{count.labels_per_day()};
   auto frame = std::int64_t{frame_number} - 1;
   if (frame < 0)
-    frame += 24 * hour;
-  else if (frame >= 24 * hour)
-    frame -= 24 * hour;
-  if (!text || frame < 0 || frame >= 100 * hour) return 0;
+    frame += day;
+  else if (frame >= day)
+    frame -= day;
+  auto const longest = std::int64_t{count.labels_per_hour()} * 100;
+  if (!text || frame < 0 || frame >= longest) return 0;
 
-  int const sample = static_cast<int>(frame);
-  int const label = count.drops_frames ? drop_frame::label_number(sample) : sample;
-  int const seconds = label / count.frames_per_second;
-  text_writer{text, count_text_size}
-      .number(seconds / 3600, 2)
-      .number(seconds / 60 % 60, 2)
-      .number(seconds % 60, 2)
-      .number(label % count.frames_per_second, 2);
+  auto const [hours, minutes, seconds, frames] = count.split(static_cast<int>(frame));
+  text_writer{text, count_text_size}.number(hours, 2).number(minutes, 2).number(seconds, 2).number(frames, 2);
   return 1;
 }
 

@@ -1,13 +1,29 @@
-// Film and video frames as label texts: timecode "hhmmssff", film timecode of 24 frames a second in the same form,
-// and key numbers "kkkkkkff" of key and frame (or perforation).
+// Film and video frames as label texts of 8 digits and a terminator.
 //
-// Frames are counted from 1. Texts are 8 digits and a terminator. Readers refuse no
-// text: fields are two characters wide, may be filled with blanks, and count 0 from the first that is none; a null
-// text reads as an empty one. `drop` other than 0 asks for drop-frame (SMPTE ST 12-1) at 30 frames a second.
+//   text                 form       field      digits        range
+//   timecode,            hhmmssff   hours      2             00 to 23; read and written up to 99
+//   film timecode (24)              minutes    2             00 to 59
+//                                   seconds    2             00 to 59
+//                                   frames     2             00 to the frames a second less 1
+//   key number           kkkkkkff   key        6; 4 or 5     000000 to the number of keys less 1
+//                                              are read too
+//                                   frame, or  2             00 to the frames (perforations) a key less 1
+//                                   perf
 //
-// All functions return 0 on failure and then write no result: for a label type or transfer that they do not know,
-// a result that does not fit an int or the 8 digits, and a null pointer where there is something to write.
-// Otherwise they return 1, and those that end in film_frames_to_video_frames its 1 or 2.
+// Frames are counted from 1. Readers accept any text. A field is two characters, blank-padded or not; from the
+// first field that is not a number on, all fields read as 0. A null text reads as an empty one. `drop` other than
+// 0 asks for drop-frame (SMPTE ST 12-1) at 30 frames a second.
+//
+//   timecode_to_video_frames(&video, "00010002", Label_timecode_30, 1);   // returns 1; video = 1801
+//   video_frames_to_timecode(1800, text, Label_timecode_30, 1);           // returns 1; text = "00005929"
+//   filmtc_to_film_frames(&film, "00000100");                             // returns 1; film = 25
+//   film_frames_to_keycode(101, text, 0, nullptr, Label_keycode_frames, 16, 0x3C);
+//                                                                         // returns 1; text = "00000604"
+//   timecode_to_video_frames(&video, "00000100", Label_timecode_24, 0);   // returns 0
+//
+// All functions return 0 on failure and then write no result: for an unknown label type or transfer, a result that
+// does not fit an int or the 8 digits, and a null pointer where there is something to write. Otherwise they return
+// 1; those that end in film_frames_to_video_frames return its 1 or 2.
 #pragma once
 
 #include "labelsbase/export.h"
@@ -15,44 +31,55 @@
 
 namespace labelsbase {
 
-inline constexpr int count_text_size = 9;  // characters that a text needs, the terminator included
+inline constexpr int count_text_size = 9;  // characters that a text needs, including the terminator
 
 }  // namespace labelsbase
 
-// Timecode of 25, 30, 48, 50 and 60 frames a second. Deliberately not of 24, which is film's own.
+// Reads timecode of 25, 30, 48, 50 and 60 frames a second. Deliberate: not of 24, which filmtc_to_film_frames
+// reads.
 LABELSBASE_API int timecode_to_video_frames(int* video, char* text, label_type label, int drop) noexcept;
 
-// Timecode of all rates. A frame up to a day before the first or after the last one of the day wraps round.
+// Writes timecode of all rates. A frame up to a day before the first or after the last one of the day moves into
+// it.
 LABELSBASE_API int video_frames_to_timecode(int video, char* text, label_type label, int drop) noexcept;
 
+// Reads film timecode, 24 frames a second.
 LABELSBASE_API int filmtc_to_film_frames(int* film, char* text) noexcept;
+
+// Writes film timecode. A frame up to a day before the first or after the last one of the day moves into it.
 LABELSBASE_API int film_frames_to_filmtc(int film, char* text) noexcept;
 
-// A key number of 4 digits and its frame; 5 in a text of 7 characters, 6 in one of 8. Blanks among the first 8
-// characters of the text become zeros, in place. `per_key` is the frames of a key, or its perforations for the
-// labels that count them, from 1 up; 0 and below are refused.
+// Reads a key number: 4 digits of the key in a text of 6 characters (or of any other length), 5 in one of 7, 6 in
+// one of 8; then 2 digits of the frame. Changes blanks among the first 8 characters of the text to zeros, in
+// place. `per_key` is the frames of a key, or its perforations for labels that count them, from 1 up; 0 and below
+// are refused.
 //
-// Film at 3 perforations a frame (Label_keycode_3perf) has keys of 21, 21 and 22 frames, 64 to three keys, and
-// does not look at `per_key`. `phase` says which this key is: 1 and 2 the short ones, 3 the long one. `phase_out`
-// receives that of the last key at or before it that is a multiple of three. Other labels leave `phase_out` alone.
+// Label_keycode_3perf ignores `per_key`: its keys have 21, 21 and 22 frames, 64 in three keys. `phase` says which
+// of them this key is, 1 to 3; any other phase is refused. `phase_out` receives the phase of the last key at or
+// before it that is a multiple of three. Other labels do not write `phase_out`.
 LABELSBASE_API int keycode_to_film_frames(int* film, char* text, int phase, int* phase_out, label_type label,
                                           int per_key) noexcept;
 
-// Keys count to 10 to the number of consecutive bits set in `digits`, from bit 2 (0x04) up: 0x3C for four digits.
-// A frame before the first, or after the last, wraps round once. For film at 3 perforations a frame, `phase` is
-// that of key 0, and `phase_out` receives that of the key.
+// Writes a key number. There are 10 to the number of consecutive bits set in `digits` keys, from bit 2 (0x04) up:
+// 0x3C stands for four digits. A frame up to that span before the first or after the last one moves into it. For
+// Label_keycode_3perf, `phase` is the phase of key 0, and `phase_out` receives the phase of the key written.
 LABELSBASE_API int film_frames_to_keycode(int film, char* text, int phase, int* phase_out, label_type label,
                                           int per_key, unsigned char digits) noexcept;
 
-// Across a pulldown (pulldown.h): `phase` is the phase of the pulldown, `key_phase` that of the key.
+// The rest reads or writes a text as above and crosses a pulldown (pulldown.h). `phase` is the phase of the
+// pulldown, `key_phase` that of the key. Readers:
+
 LABELSBASE_API int timecode_to_film_frames(int* film, char* text, int phase, int* phase_out, label_type label,
-                                           int drop, transfer_type transfer) noexcept;
-LABELSBASE_API int film_frames_to_timecode(int film, char* text, int phase, int last_phase, label_type label,
                                            int drop, transfer_type transfer) noexcept;
 LABELSBASE_API int keycode_to_video_frames(int* video, char* text, int key_phase, int* key_phase_out, int phase,
                                            label_type label, transfer_type transfer, int per_key) noexcept;
+LABELSBASE_API int filmtc_to_video_frames(int* video, char* text, int phase, transfer_type transfer) noexcept;
+
+// Writers:
+
+LABELSBASE_API int film_frames_to_timecode(int film, char* text, int phase, int last_phase, label_type label,
+                                           int drop, transfer_type transfer) noexcept;
 LABELSBASE_API int video_frames_to_keycode(int video, char* text, int key_phase, int* key_phase_out, int phase,
                                            label_type label, transfer_type transfer, int per_key,
                                            unsigned char digits) noexcept;
-LABELSBASE_API int filmtc_to_video_frames(int* video, char* text, int phase, transfer_type transfer) noexcept;
 LABELSBASE_API int video_frames_to_filmtc(int video, char* text, int phase, transfer_type transfer) noexcept;

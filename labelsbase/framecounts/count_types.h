@@ -1,5 +1,5 @@
-// What the frame counts are told about film, video and labels. The numbers are stored by hosts and never change;
-// any 32-bit value may be handed in.
+// The vocabulary of the frame counts. Hosts store the numbers, so they never change. Callers may hand in any
+// 32-bit value.
 #pragma once
 
 #include <cstdint>
@@ -8,27 +8,28 @@
 enum transfer_type : std::int32_t {
   Transfer_none = 0,          // a film frame is a video frame
   Transfer_2_3_pulldown = 1,  // 4 film frames become 5 video frames, 24 to 30 frames a second
-  Transfer_24_to_25 = 2,      // 24 film frames become 25 video frames: one is added every second
-  Transfer_one_to_one = 3,    // as none
+  Transfer_24_to_25 = 2,      // 24 film frames become 25 video frames: one frame is added every second
+  Transfer_one_to_one = 3,    // a film frame is a video frame, as with none
   Transfer_project_rate = 7,  // the pulldown of the project's rates; frame counts do not know it
 };
 
-// What is being edited, and so what is counted.
+// What is being edited, which decides what is counted.
 enum edit_type : std::int32_t {
   Edit_film = 0,   // film frames, 24 a second
   Edit_video = 1,  // video frames, at the rate of the material
 };
 
+// The video frames a second of the material.
 enum material_type : std::int32_t {
-  Material_29_97 = 0,  // 30000/1001 video frames a second
+  Material_29_97 = 0,  // 30 / 1.001
   Material_30 = 1,
   Material_25 = 2,
 };
 
-// The text form of a label. One form has several numbers where hosts tell tracks of labels apart by them. The
-// numbers from 1 to 43 without a name belong to hosts, and frame counts do not know them.
+// The text form of a label. Several numbers with one form serve hosts to tell tracks of labels apart. Numbers from
+// 1 to 43 without a name here belong to hosts; frame counts refuse them.
 enum label_type : std::int32_t {
-  Label_timecode_30 = 1,  // drop-frame when asked
+  Label_timecode_30 = 1,  // drop-frame if the caller asks for it
   Label_timecode_30_b = 3,
   Label_timecode_30_c = 22,
   Label_timecode_30_d = 25,

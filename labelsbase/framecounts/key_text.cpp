@@ -8,49 +8,66 @@
 #include "labelsbase/framecounts/count_text.h"
 #include "labelsbase/framecounts/pulldown.h"
 #include "labelsbase/framecounts/put_count.h"
-#include "labelsbase/framecounts/transfer_rows.h"
+#include "labelsbase/framecounts/transfers.h"
 #include "labelsbase/support/text.h"
 
 using namespace labelsbase;
 
 namespace {
 
-// A key of 64 perforations has 21 1/3 frames of 3, so three keys have 64 frames: 21, 21 and, at phase 3, 22.
-namespace three_perf {
+// Keys of 35 mm film at 3 perforations a frame, as frame counts number them: every key has whole frames, and a
+// frame belongs to the key that it ends in. (Key number labels count otherwise: labelsbase/counts/film_gauge.h.)
+// Three keys of 64 perforations have 64 frames. The phase says how many of the three have begun: after phase 3 it
+// starts again.
+//
+//   phase            1    2    3
+//   frames of a key 21   21   22
+namespace whole_frame_keys {
 
 constexpr int keys = 3;
 constexpr int frames = 64;
 
 constexpr bool is_phase(int phase) noexcept { return phase >= 1 && phase <= keys; }
-constexpr int frames_of_key(int phase) noexcept { return phase == keys ? 22 : 21; }
-constexpr int phase_after(int phase) noexcept { return phase == keys ? 1 : phase + 1; }
 
-// The frames before a key, when key 0 has the phase `phase`.
-constexpr std::int64_t frames_before(int key, int phase) noexcept {
-  auto result = std::int64_t{key / keys} * frames;
-  for (int rest = key % keys; rest > 0; --rest) {
-    result += frames_of_key(phase);
-    phase = phase_after(phase);
-  }
-  return result;
+// Returns the phase of a key from 0 up, if key 0 has the phase `phase`.
+constexpr int phase_of(std::int64_t key, int phase) noexcept {
+  return static_cast<int>((key + phase - 1) % keys) + 1;
 }
 
-}  // namespace three_perf
+// Returns the frames before a key from 0 up, if key 0 has the phase `phase`.
+constexpr std::int64_t frames_before(std::int64_t key, int phase) noexcept {
+  return (key * frames + phase - 1) / keys;
+}
 
-// A key, and the frames or perforations that follow it.
+// Returns the key of a frame, both from 0 up.
+constexpr std::int64_t key_of(std::int64_t frame, int phase) noexcept {
+  return (frame * keys + keys - phase) / frames;
+}
+
+static_assert(frames_before(1, 1) == 21 && frames_before(2, 1) == 42 && frames_before(3, 1) == 64);
+static_assert(frames_before(1, 3) == 22 && frames_before(2, 3) == 43 && frames_before(3, 3) == 64);
+static_assert(key_of(20, 1) == 0 && key_of(21, 1) == 1 && key_of(21, 3) == 0 && key_of(22, 3) == 1);
+
+}  // namespace whole_frame_keys
+
+// A key, and the frames or perforations after it.
 struct key_number {
   std::int64_t key;
   std::int64_t rest;
 };
 
-// The length of a text, 9 for all that are longer than 8.
+// Returns the length of a text, or 9 if it is longer than 8.
 std::size_t length_up_to_9(char const* text) noexcept {
   std::size_t length = 0;
   while (length < 9 && text[length]) ++length;
   return length;
 }
 
-// Changes blanks to zeros in place, as hosts know it.
+// Reads a key and what follows it. Any text can be read; a field that is missing is 0. Changes blanks among the
+// first 8 characters to zeros in place: hosts rely on it.
+//
+//   kkkkff, kkkkkff or kkkkkkff: the key has 5 digits in a text of 7 characters, 6 in one of 8, and 4 in all
+//   others
 key_number read_key_number(char* text) noexcept {
   if (!text) return {};
   for (std::size_t i = 0; i < 8 && text[i]; ++i)
@@ -63,7 +80,7 @@ key_number read_key_number(char* text) noexcept {
   return {*key, in.number(2).value_or(0)};
 }
 
-// 1 when written, 0 for what 8 digits cannot show.
+// Writes kkkkkkff. Returns 1, or 0 for a key number that 8 digits cannot show.
 int write_key_number(char* text, key_number number) noexcept {
   auto const [key, rest] = number;
   if (key < 0 || key > 999'999 || rest < 0 || rest > 99) return 0;
@@ -71,13 +88,14 @@ int write_key_number(char* text, key_number number) noexcept {
   return 1;
 }
 
+// Returns how many keys there are: 10 to the number of consecutive bits set in `digits` from bit 2 up.
 constexpr int keys_of(unsigned char digits) noexcept {
   int keys = 1;
   for (int bits = std::countr_one(static_cast<unsigned char>(digits >> 2)); bits > 0; --bits) keys *= 10;
   return keys;
 }
 
-// A frame from 0 up, once round a span.
+// Moves a frame up to a span out of the span into it.
 constexpr std::int64_t wrap_once(std::int64_t frame, std::int64_t span) noexcept {
   if (frame < 0) return frame + span;
   return frame >= span ? frame - span : frame;
@@ -85,27 +103,27 @@ constexpr std::int64_t wrap_once(std::int64_t frame, std::int64_t span) noexcept
 
 int read_three_perf(int* film, char* text, int phase, int* phase_out) noexcept {
   if (!phase_out) return 0;
-  auto const [key, frames] = read_key_number(text);
-  if (!three_perf::is_phase(phase)) return 0;
+  auto const [key, rest] = read_key_number(text);
+  if (!whole_frame_keys::is_phase(phase)) return 0;
 
-  int const whole_key = static_cast<int>(key);
-  int first_phase = phase - whole_key % three_perf::keys;
-  if (first_phase <= 0) first_phase += three_perf::keys;
-  return put_count(film, three_perf::frames_before(whole_key, first_phase) + frames + 1, phase_out, first_phase);
+  // `first_phase` is the phase of the key at or before this one that is a multiple of three. Deliberate: a key
+  // below 0 counts as the multiple of three towards 0.
+  auto const in_three = key % whole_frame_keys::keys;
+  auto const threes = key / whole_frame_keys::keys * whole_frame_keys::frames;
+  auto first_phase = phase - in_three;
+  if (first_phase <= 0) first_phase += whole_frame_keys::keys;
+  auto const frames = in_three > 0 ? whole_frame_keys::frames_before(in_three, static_cast<int>(first_phase)) : 0;
+  return put_count(film, threes + frames + rest + 1, phase_out, first_phase);
 }
 
 int write_three_perf(int film, char* text, int phase, int* phase_out, int keys) noexcept {
-  if (!phase_out || !three_perf::is_phase(phase)) return 0;
-  auto const frame = wrap_once(std::int64_t{film} - 1, three_perf::frames_before(keys, phase));
+  if (!phase_out || !whole_frame_keys::is_phase(phase)) return 0;
+  auto const frame = wrap_once(std::int64_t{film} - 1, whole_frame_keys::frames_before(keys, phase));
+  if (frame < 0) return 0;
 
-  auto key = frame / three_perf::frames * three_perf::keys;
-  auto rest = frame % three_perf::frames;
-  for (; rest >= three_perf::frames_of_key(phase); ++key) {
-    rest -= three_perf::frames_of_key(phase);
-    phase = three_perf::phase_after(phase);
-  }
-  if (!write_key_number(text, {key, rest})) return 0;
-  *phase_out = phase;
+  auto const key = whole_frame_keys::key_of(frame, phase);
+  if (!write_key_number(text, {key, frame - whole_frame_keys::frames_before(key, phase)})) return 0;
+  *phase_out = whole_frame_keys::phase_of(key, phase);
   return 1;
 }
 

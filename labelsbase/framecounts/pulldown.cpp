@@ -3,18 +3,18 @@
 #include <cstdint>
 
 #include "labelsbase/framecounts/put_count.h"
-#include "labelsbase/framecounts/transfer_rows.h"
+#include "labelsbase/framecounts/transfers.h"
 
 using namespace labelsbase;
 
 namespace {
 
-// Whole cycles to add to a frame so that it stands in the first one or a later one.
+// Returns how many whole cycles to add to a frame to bring it to frame 1 or later.
 constexpr std::int64_t cycles_before_first(int frame, int cycle) noexcept {
   return frame > 0 ? 0 : (std::int64_t{cycle} - frame) / cycle;
 }
 
-// A step of frames within a cycle, from 0 up.
+// Returns the remainder of a step within a cycle, from 0 up.
 constexpr int step_in_cycle(int frames, int cycle) noexcept {
   int const step = frames % cycle;
   return step < 0 ? step + cycle : step;
@@ -30,7 +30,7 @@ int film_frames_to_video_frames(int film, int* video, int phase, int last_phase,
   int const cycle = row->film_cycle;
   auto const cycles = cycles_before_first(film, cycle);
   auto const frame = film + cycles * cycle;
-  auto const position = frame % cycle;  // in the cycle, from 1; its last frame is 0 of the next
+  auto const position = frame % cycle;  // in the cycle, from 1; 0 for its last frame
 
   auto result = frame + frame / cycle - cycles * row->video_cycle;
   if (position == 0)
@@ -51,7 +51,7 @@ int video_frames_to_film_frames(int video, int* film, int phase, int* phase_out,
   int const cycle = row->video_cycle;
   auto const cycles = cycles_before_first(video, cycle);
   auto const frame = video + cycles * cycle;
-  auto const position = frame % cycle;  // in the cycle, from 1; its last frame is 0 of the next
+  auto const position = frame % cycle;  // in the cycle, from 1; 0 for its last frame
 
   auto result = frame - frame / cycle - cycles * row->film_cycle;
   result += position == 0 && phase == row->film_cycle - 1;

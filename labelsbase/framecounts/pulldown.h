@@ -1,37 +1,55 @@
 // Film frames and video frames across a pulldown.
 //
-// Frames are counted from 1; any int is taken, frames before the first as well. A transfer with pulldown makes one
-// video frame more of every cycle of N film frames: 5 of 4, or 25 of 24. The phase, from 0 to N, says where: after
-// the film frame at that position of the cycle, 0 being the first. At phase N, it stands before the first one.
+// A 2:3 pulldown shows film at 24 frames a second as video at 30 (60 fields): film frames stay for two fields and
+// for three, in turn, so 4 film frames become 5 video frames.
 //
-//     Transfer_2_3_pulldown, phase 0       Transfer_2_3_pulldown, phase 2
-//     film    A   .   B   C   D            film    A   B   C   .   D
-//     video   1   2   3   4   5            video   1   2   3   4   5
+//   film frame      1       2           3       4
+//   field         1   1 | 2   2 | 2   3 | 3   4 | 4   4
+//   video frame     1       2       3       4       5
 //
-// All functions return 0 on failure and then write nothing: for a transfer that they do not know, a result that
-// does not fit an int, and a null pointer where there is something to write.
+// Frame counts simplify this: a cycle of N film frames becomes N + 1 video frames, and one of them is added whole.
+// The phase, from 0 to N, says where: after film frame phase + 1 of the cycle, or at phase N before the first one.
+// With N = 4:
+//
+//   phase   0              1              2              3              4
+//   film    1 . 2 3 4      1 2 . 3 4      1 2 3 . 4      1 2 3 4 .      . 1 2 3 4
+//   video   1 2 3 4 5      1 2 3 4 5      1 2 3 4 5      1 2 3 4 5      1 2 3 4 5
+//
+//   number              range
+//   film, video frame   counted from 1; any int is accepted, frames before the first too
+//   phase               0 to 4 for Transfer_2_3_pulldown, 0 to 24 for Transfer_24_to_25; any int is accepted
+//   transfer            see labelsbase/framecounts/transfers.h
+//
+//   auto const t = Transfer_2_3_pulldown;
+//   film_frames_to_video_frames(2, &video, 0, -1, t);      // returns 1; video = 3
+//   film_frames_to_video_frames(4, &video, 3, -1, t);      // returns 2; video = 4
+//   video_frames_to_film_frames(3, &film, 0, &phase, t);   // returns 1; film = 2, phase = 3
+//   film_frames_plus_frames(1, 0, 5, &film, &phase, t);    // returns 1; film = 6, phase = 1
+//   video_frames_plus_frames(1, 3, 1, &video, &phase, t);  // returns 1; video = 2, phase = 4
+//
+// All functions return 0 on failure and then write nothing: for an unknown transfer, a result that does not fit an
+// int, and a null pointer where there is something to write.
 #pragma once
 
 #include "labelsbase/export.h"
 #include "labelsbase/framecounts/count_types.h"
 
-// The first video frame that shows a film frame. `last_phase` is the phase that the frame before was left with, -1
-// for none; at N its cycle has counted the added frame already, and video counts one less. Returns 2 when the
-// added frame comes at the end of the cycle (phase N - 1 and up), else 1.
+// Writes the first video frame that shows a film frame. `last_phase` is the phase that the frame before was left
+// with, or -1; at N its cycle has counted the added frame already, so video counts one less. Returns 2 if the
+// added frame comes at the end of the cycle (phase N - 1 and above), otherwise 1.
 LABELSBASE_API int film_frames_to_video_frames(int film, int* video, int phase, int last_phase,
                                                transfer_type transfer) noexcept;
 
-// The film frame that a video frame shows; for the added frame, the film frame after it. `phase_out` receives the
-// phase of a cycle that starts at this video frame; without pulldown it is left alone. Returns 1.
+// Writes the film frame that a video frame shows; for the added frame, the film frame after it. `phase_out`
+// receives the phase of a cycle that starts at this video frame; without pulldown it is not written. Returns 1.
 LABELSBASE_API int video_frames_to_film_frames(int video, int* film, int phase, int* phase_out,
                                                transfer_type transfer) noexcept;
 
-// A film frame and its place in the cycle, moved on by so many film frames, or back. Without pulldown, `phase_out`
-// is left alone. Returns 1.
+// Adds `frames` film frames, or takes them off if negative, and writes the new frame and its phase. Without
+// pulldown, `phase_out` is not written. Returns 1.
 LABELSBASE_API int film_frames_plus_frames(int film, int phase, int frames, int* film_out, int* phase_out,
                                            transfer_type transfer) noexcept;
 
-// The same for video frames. Deliberately less strict: a transfer that it does not know has no phase and only
-// adds.
+// Adds video frames likewise. Deliberate: unknown transfers are accepted and count as one without pulldown.
 LABELSBASE_API int video_frames_plus_frames(int video, int phase, int frames, int* video_out, int* phase_out,
                                             transfer_type transfer) noexcept;

@@ -1,4 +1,4 @@
-// Results of the frame counts: nothing is written unless all of it fits.
+// Results of the frame counts: written only if all of them fit.
 #pragma once
 
 #include <cstdint>
@@ -6,14 +6,14 @@
 
 namespace labelsbase {
 
-// Writes a result and gives its status: 0 when it does not fit or has nowhere to go, else 1.
+// Writes a result. Returns 1, or 0 if it does not fit an int or `out` is null.
 constexpr int put_count(int* out, std::int64_t value) noexcept {
   if (!out || !std::in_range<int>(value)) return 0;
   *out = static_cast<int>(value);
   return 1;
 }
 
-// Both or none.
+// Writes a frame and a phase, or neither.
 constexpr int put_count(int* frame_out, std::int64_t frame, int* phase_out, std::int64_t phase) noexcept {
   if (!frame_out || !std::in_range<int>(frame) || !put_count(phase_out, phase)) return 0;
   return put_count(frame_out, frame);

@@ -18,7 +18,7 @@ constexpr double ntsc_slowdown = 1.001;
 constexpr double film_fps = 24.0;
 constexpr int unset_sequence = -1;
 
-// Projects whose film frames are played out one for one where there is no pulldown.
+// Projects whose frames play one for one if there is no pulldown.
 struct film_project_row {
   Kiv::FrameRate project_rate;
   bool clock_to_cel;
@@ -40,8 +40,8 @@ constexpr film_project_row film_project_rows[] = {
 
 struct film_output_row {
   Kiv::FrameRate output_rate;
-  double fps;              // of film frames, without the 1001 factor
-  bool cel_to_clock_1001;  // whether cel to clock puts back the factor that clock to cel takes out
+  double fps;              // film frames a second without the 1001 factor
+  bool cel_to_clock_1001;  // cel to clock puts back the factor that clock to cel takes out
 };
 
 // clang-format off
@@ -56,7 +56,7 @@ constexpr film_output_row film_output_rows[] = {
 };
 // clang-format on
 
-// How film is played out in this direction; null where the project or the output is none for film.
+// Returns the output of film in this direction, or null if the project or the output is not one for film.
 film_output_row const* film_output(MPosn_Xlate_Params const& p, bool film_project_row::*direction) noexcept {
   auto const* const project =
       std::ranges::find(film_project_rows, p.project_rate, &film_project_row::project_rate);
@@ -91,7 +91,7 @@ double cel_to_clock(double seconds, MPosn_Xlate_Params const& p) {
 
 using translation = double (*)(double seconds, MPosn_Xlate_Params const& params);
 
-// Null for media whose translation is the host's.
+// Returns null for media that the host translates.
 translation find_translation(MediumRollMedium from, MediumRollMedium to) noexcept {
   if (from == Medium_clock && to == Medium_cel) return clock_to_cel;
   if (from == Medium_cel && to == Medium_clock) return cel_to_clock;

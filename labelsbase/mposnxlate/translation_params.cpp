@@ -2,16 +2,14 @@
 
 #include "host/config.h"
 #include "host/current_project.h"
+#include "labelsbase/framecounts/transfers.h"
 
 namespace {
 
-// Video frames of a pulldown cycle: 4 film frames at 30 frames per second, 24 at 25.
-constexpr int cycle_at_30 = 5;
-constexpr int cycle_at_25 = 25;
-
-// The remainder has the sign of the sum, which may be wider than the phase.
-int moved_phase(int phase, int delta, int cycle) noexcept {
-  return static_cast<int>((std::int64_t{phase} + delta) % cycle);
+// Moves a phase by `delta` video frames within the cycle of a pulldown: 5 video frames from film to 30 frames a
+// second, 25 from film to 25. The result has the sign of the sum.
+int moved_phase(int phase, int delta, transfer_type pulldown) noexcept {
+  return static_cast<int>((std::int64_t{phase} + delta) % labelsbase::find_transfer(pulldown)->video_cycle);
 }
 
 void set_output_rate(MPosn_Xlate_Params& params, Kiv::FrameRate rate) {
@@ -84,7 +82,7 @@ void MPosn_Xlate_Params::initOutputFormat(Kiv::FrameRate project, Kiv::FrameRate
 void MPosn_Xlate_Params::modify_sequence_to_playfile_std(int delta) {
   if (transfer != Transfer_project_rate) return;
   bool const at_25 = video_rate == Kiv::FrameRate_25 || video_rate == Kiv::FrameRate_50;
-  sequence = moved_phase(sequence, delta, at_25 ? cycle_at_25 : cycle_at_30);
+  sequence = moved_phase(sequence, delta, at_25 ? Transfer_24_to_25 : Transfer_2_3_pulldown);
 }
 
 MPosn_Conversion_Params::MPosn_Conversion_Params() { init(); }
@@ -113,5 +111,6 @@ void MPosn_Conversion_Params::init_to_default_filmvid_conversion() {
 
 void MPosn_Conversion_Params::modify_sequence_to_playfile_std(int delta) {
   if (!adjust_sequence) return;
-  sequence = moved_phase(sequence, delta, transfer == Transfer_24_to_25 ? cycle_at_25 : cycle_at_30);
+  auto const pulldown = transfer == Transfer_24_to_25 ? Transfer_24_to_25 : Transfer_2_3_pulldown;
+  sequence = moved_phase(sequence, delta, pulldown);
 }

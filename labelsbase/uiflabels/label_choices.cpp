@@ -1,17 +1,20 @@
+#include "labelsbase/uiflabels/label_choices.h"
+
 #include <algorithm>
 #include <cstring>
 #include <iterator>
 #include <span>
 
+#include "labelsbase/support/enumerators.h"
 #include "labelsbase/support/text.h"
-#include "labelsbase/uiflabels.h"
 
 using namespace labelsbase;
 
 namespace {
 
-// In the order that lookups go by: two keywords that are the same give the first. Hosts have saved these, with
-// their irregularities: "1st_Gen" stands for generation 3, and the laboratory's reel is on the ink medium.
+// Lookups go by the order of the rows: of two rows with one keyword they find the first. Hosts have saved the
+// keywords and identifiers, so these irregularities stay: "1st_Gen" means the second generation, and "lab_reel"
+// the ink medium.
 // clang-format off
 constexpr VagueUIFLabelDef choices[] = {
 //   label                       text   family         medium, generation             keyword
@@ -54,11 +57,27 @@ constexpr VagueUIFLabelDef choices[] = {
 };
 // clang-format on
 
-static_assert(std::size(choices) == uif_cd + 2);
-
-// The rows that lookups find: the last one only ends the table.
+// The rows that lookups find. The last row, uif_none, only ends the table.
 constexpr std::span found_choices{choices, std::size(choices) - 1};
 
+// Returns the first choice that has no row or several, or the number behind the last choice.
+consteval VagueUIFLabel first_without_row() {
+  int number = 0;
+  for (; number < static_cast<int>(found_choices.size()); ++number)
+    if (std::ranges::count(found_choices, number, &VagueUIFLabelDef::label) != 1) break;
+  return static_cast<VagueUIFLabel>(number);
+}
+
+// The compiler names the choice at fault as the argument of this template.
+template <VagueUIFLabel first_at_fault>
+struct every_choice_has_its_row {
+  static_assert(!is_enumerator<first_at_fault>(), "this choice needs a row of its own in the table");
+  static constexpr bool holds = true;
+};
+
+static_assert(every_choice_has_its_row<first_without_row()>::holds);
+
+// Returns the row of a choice, or null if it has none.
 VagueUIFLabelDef const* choice_of(VagueUIFLabel label) noexcept {
   auto const row = std::ranges::find(found_choices, label, &VagueUIFLabelDef::label);
   return row == found_choices.end() ? nullptr : &*row;

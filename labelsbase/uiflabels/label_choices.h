@@ -7,7 +7,8 @@
 #include "labelsbase/export.h"
 #include "labelsbase/labelcvt/label_types.h"
 
-// What a user chooses to see of an item: a label, a reel name, a scene. The numbers are the host's.
+// What a user can choose to see of an item: a label, a reel, a scene. Hosts store the numbers. Callers may hand in
+// any 32-bit value.
 enum VagueUIFLabel : std::int32_t {
   uif_none = -1,
   uif_Any_Label = 0,
@@ -47,35 +48,44 @@ enum VagueUIFLabel : std::int32_t {
   uif_cd,
 };
 
-// A text of the host's user interface.
+// The number of a text in the host's user interface.
 using ResId = std::uint32_t;
 
 // One choice.
 struct LABELSBASE_API VagueUIFLabelDef {
   VagueUIFLabel label;
   ResId text;               // its name on screen
-  UserLabelType type;       // the family that it shows
-  MediumRollIdent medroll;  // which of an item's labels is meant
-  char const* config;       // the keyword that it is saved under
+  UserLabelType type;       // the family of labels that it shows; User_no_label for a reel or a note
+  MediumRollIdent medroll;  // selects one of an item's labels
+  char const* config;       // the keyword that the choice is saved under
 
   constexpr VagueUIFLabelDef(VagueUIFLabel label_, ResId text_, UserLabelType type_, MediumRollIdent medroll_,
                              char const* config_) noexcept
       : label{label_}, text{text_}, type{type_}, medroll{medroll_}, config{config_} {}
 
-  // Deliberately inert: `medroll` becomes {0, 0}, every other field stays as its memory was, and no argument
-  // counts.
+  // Deliberately inert: sets `medroll` to {0, 0}, ignores every argument and leaves the other fields unset.
   VagueUIFLabelDef(VagueUIFLabel, ResId, UserLabelType, char const*, MediumRollMedium,
                    MediumRollGeneration) noexcept;
 };
 
-// The keyword of a choice; "" for a value that is none.
+// The lookups below return the stated value for uif_none and for a number that is not a choice.
+//
+//   uifLabel_to_config_str(uif_KeyKode)   // "KeyKode"
+//   config_str_to_uifLabel("scene")       // uif_scene, which stands before uif_scene_2
+//   uifLabelText(uif_KeyKode)             // 12841
+//   uifLabelMedroll(uif_KeyKode)          // {Medium_film, Gen_any}
+
+// Returns the keyword of a choice, or "".
 [[nodiscard]] LABELSBASE_API char const* uifLabel_to_config_str(VagueUIFLabel label) noexcept;
 
-// The choice of a keyword, in exact case; uif_none when there is none. Of two choices with one keyword, the first
-// of the table.
+// Returns the first choice with this keyword, in exact case, or uif_none. A null keyword reads as "".
 [[nodiscard]] LABELSBASE_API VagueUIFLabel config_str_to_uifLabel(char const* config) noexcept;
 
-// Name, family and identifier of a choice; 12840, User_none and the invalid identifier for a value that is none.
+// Returns the name of a choice on screen, or 12840.
 [[nodiscard]] LABELSBASE_API ResId uifLabelText(VagueUIFLabel label) noexcept;
+
+// Returns the family of a choice, or User_none.
 [[nodiscard]] LABELSBASE_API UserLabelType uifLabelType(VagueUIFLabel label) noexcept;
+
+// Returns the identifier of a choice, or {0, 0}. The reference stays valid.
 [[nodiscard]] LABELSBASE_API MediumRollIdent const& uifLabelMedroll(VagueUIFLabel label) noexcept;
