@@ -87,7 +87,7 @@ char* EditLabel::make_keep_string(char* buffer) {
 }
 
 EditLabel const& invalid_edit_label() {
-  // It has been counted from the start.
+  // It was counted from the start.
   static EditLabel const invalid = [] {
     EditLabel::howmany.fetch_sub(1, std::memory_order_relaxed);
     return EditLabel{get_invalid_label(), get_invalid_MediumRollIdent()};

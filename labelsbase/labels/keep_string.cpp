@@ -1,7 +1,15 @@
-// Keep strings: the one line of text that a host stores of a label and hands back years later.
+// Keep strings: one line of text that a host stores of a label and hands back years later.
+//
+//   header type start length pitch bounded, separated by blanks; fields may be missing from the end
 //
 //   LABEL_REV:1 pal_label 01:00:00.00 250 0.0400000000 1
-//   header, type, start, length in units, seconds per unit, bounded
+//
+//   header    "LABEL_REV", any one character, the revision: 1 or 2 (and below 0) are read
+//   type      the converter's type_str()
+//   start     the label's text, prefix included
+//   length    units: frames for film, samples for timecode
+//   pitch     seconds per unit
+//   bounded   0 for an unbounded label
 
 #include <algorithm>
 #include <cstring>
@@ -64,7 +72,7 @@ Label::Label(char const* keep) {
   char const* const first = fields.next();
   if (!first || std::strncmp(first, header, header_length) != 0) return;
   revision = revision_of(first);
-  if (revision == 0 || revision >= 3) return;  // revisions below 0 are read: hosts have written them
+  if (revision == 0 || revision >= 3) return;  // hosts have written revisions below 0
 
   if (char const* const type = fields.next()) use_converter(get_label_type(type));
   char const* const start_text = fields.next();

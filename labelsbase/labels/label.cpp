@@ -74,7 +74,7 @@ namespace {
 
 bool lies_within(int offset, int length) noexcept { return offset >= 0 && offset <= length; }
 
-// The label's prefix, in its start's buffer: converters share theirs.
+// Returns the label's prefix, copied into the point's buffer: converters share theirs.
 std::string_view prefix_of(LabelPoint& point) {
   auto const& cvt = *point.converter;
   char const* prefix = cvt.get_prefix(&point);
@@ -176,7 +176,7 @@ bool has_sample(double posn_seconds, double pitch) noexcept {
   return posn_seconds != invalid_posn && std::isfinite(posn_seconds) && std::isfinite(pitch) && pitch != 0.0;
 }
 
-// Rounds away from zero below it: positions there belong to the sample before.
+// Returns the sample at a position. A negative position belongs to the sample before.
 int sample_at(double posn_seconds, double pitch) noexcept {
   double const samples = posn_seconds / pitch;
   return to_int(posn_seconds < 0 ? samples - 1 : samples);
