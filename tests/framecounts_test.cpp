@@ -275,6 +275,8 @@ TEST(FrameCounts, RefuseWhatIsNotTheirs) {
     CHECK(keycode_to_film_frames(&frame, in, 1, nullptr, Label_keycode_3perf, 16), false);
     CHECK(film_frames_to_keycode(5, text, 1, nullptr, Label_keycode_3perf, 16, 0x3C), false);
     CHECK(keycode_to_film_frames(&frame, in, value, &phase, Label_keycode_3perf, 16), is_phase);
+    CHECK(keycode_to_film_frames(&frame, in, 1, &phase, Label_keycode_frames, value), value > 0);
+    CHECK(film_frames_to_keycode(0, text, 1, &phase, Label_keycode_frames, value, 0x3C), value > 0);
     CHECK(timecode_to_video_frames(nullptr, in, Label_timecode_25, 0), false);
     CHECK(video_frames_to_timecode(5, nullptr, Label_timecode_25, 0), false);
     CHECK(filmtc_to_film_frames(nullptr, in), false);

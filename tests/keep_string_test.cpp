@@ -121,6 +121,8 @@ TEST(KeepString, MayEndAfterAnyField) {
       {"LABEL_REV:1 pal_label 01:00:00.00 250 +0x1p-1 1", 5, 90'000, 250, 1, 0.5},
       {"LABEL_REV:1 pal_label 01:00:00.00 250 --1 1", 5, 90'000, 250, 1, 0.0},
       {"LABEL_REV:1 keycode_35_label KJ1234560001+00 1073741825 1e-400 1", 10, 64, 4, 1, 0.0},
+      {"LABEL_REV:1 pal_label 01:00:00.00 250 0x-5 1", 5, 90'000, 250, 1, 0.0},
+      {"LABEL_REV:1 pal_label 01:00:00.00 250 0.2e886 1", 5, 90'000, 250, 1, HUGE_VAL},
   };
   // clang-format on
   for (auto const& c : cases) {
