@@ -14,12 +14,17 @@
 // first field that is not a number on, all fields read as 0. A null text reads as an empty one. `drop` other than
 // 0 asks for drop-frame (SMPTE ST 12-1) at 30 frames a second.
 //
-//   timecode_to_video_frames(&video, "00010002", Label_timecode_30, 1);   // returns 1; video = 1801
-//   video_frames_to_timecode(1800, text, Label_timecode_30, 1);           // returns 1; text = "00005929"
-//   filmtc_to_film_frames(&film, "00000100");                             // returns 1; film = 25
-//   film_frames_to_keycode(101, text, 0, nullptr, Label_keycode_frames, 16, 0x3C);
-//                                                                         // returns 1; text = "00000604"
-//   timecode_to_video_frames(&video, "00000100", Label_timecode_24, 0);   // returns 0
+//   int video, film;
+//   char in[] = "00010002", out[9];
+//   timecode_to_video_frames(&video, in, Label_timecode_30, 1)                        // 1, with drop-frame
+//   video                                                                             // 1801
+//   video_frames_to_timecode(1800, out, Label_timecode_30, 1)                         // 1
+//   out                                                                               // "00005929"
+//   filmtc_to_film_frames(&film, in)                                                  // 1
+//   film                                                                              // 1443
+//   film_frames_to_keycode(101, out, 0, nullptr, Label_keycode_frames, 16, 0x3C)      // 1, 16 frames a key
+//   out                                                                               // "00000604"
+//   timecode_to_video_frames(&video, in, Label_timecode_24, 0)                        // 0, refused
 //
 // All functions return 0 on failure and then write no result: for an unknown label type or transfer, a result that
 // does not fit an int or the 8 digits, and a null pointer where there is something to write. Otherwise they return

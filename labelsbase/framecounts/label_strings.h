@@ -16,12 +16,18 @@
 //   key_phase, per_key, digits      key numbers: see count_text.h
 //   drop                            other than 0 for drop-frame: see count_text.h
 //
-//   label_to_frames("00000100", 1, &key_phase, 0, &phase, &frames, Label_timecode_25, 0, Transfer_none,
-//                   Edit_video, 16);                                  // returns 1; frames = 26, phase = -1
-//   frames_to_label(text, 1, &key_phase, 0, -1, 26, Label_timecode_25, 0, Transfer_none, Edit_video, 16, 0x3C);
-//                                                                     // returns 1; text = "00000100"
-//   label_plus_time(text, &key_phase, &phase, text, 1, 0, 10.0, Label_timecode_30, 0, 16, Material_29_97,
-//                   Transfer_none, Edit_video, 0x3C);                 // 299 frames later: "00001029"
+// For 25 frame timecode in a video edit:
+//
+//   int frames, phase, key_phase;
+//   char text[] = "00000200";
+//   constexpr auto tc = Label_timecode_25;
+//   label_to_frames(text, 1, &key_phase, 0, &phase, &frames, tc, 0, Transfer_none, Edit_video, 16)   // 1
+//   frames   // 51
+//   frames_to_label(text, 1, &key_phase, 0, -1, 26, tc, 0, Transfer_none, Edit_video, 16, 0x3C)   // 1
+//   text   // "00000100"
+//   label_plus_frames(text, &key_phase, &phase, text, 1, 0, 5, tc, 0, 16, 0x3C, Transfer_none, Edit_video)  // 1
+//   text   // "00000105"
+//   get_frame_rate(Material_29_97, Edit_video)   // 29.970029970029973
 //
 // Text formats and return values: see count_text.h.
 #pragma once

@@ -20,12 +20,19 @@
 //   phase               0 to 4 for Transfer_2_3_pulldown, 0 to 24 for Transfer_24_to_25; any int is accepted
 //   transfer            see labelsbase/framecounts/transfers.h
 //
-//   auto const t = Transfer_2_3_pulldown;
-//   film_frames_to_video_frames(2, &video, 0, -1, t);      // returns 1; video = 3
-//   film_frames_to_video_frames(4, &video, 3, -1, t);      // returns 2; video = 4
-//   video_frames_to_film_frames(3, &film, 0, &phase, t);   // returns 1; film = 2, phase = 3
-//   film_frames_plus_frames(1, 0, 5, &film, &phase, t);    // returns 1; film = 6, phase = 1
-//   video_frames_plus_frames(1, 3, 1, &video, &phase, t);  // returns 1; video = 2, phase = 4
+//   int video, film, phase;
+//   film_frames_to_video_frames(2, &video, 0, -1, Transfer_2_3_pulldown)       // 1
+//   video                                                                      // 3, behind the added frame
+//   film_frames_to_video_frames(4, &video, 3, -1, Transfer_2_3_pulldown)       // 2, the phase ends the cycle
+//   video                                                                      // 4
+//   video_frames_to_film_frames(3, &film, 0, &phase, Transfer_2_3_pulldown)    // 1
+//   film                                                                       // 2
+//   phase                                                                      // 3
+//   film_frames_plus_frames(1, 0, 5, &film, &phase, Transfer_2_3_pulldown)     // 1
+//   film                                                                       // 6
+//   phase                                                                      // 1
+//   video_frames_plus_frames(1, 3, 1, &video, &phase, Transfer_2_3_pulldown)   // 1
+//   phase                                                                      // 4
 //
 // All functions return 0 on failure and then write nothing: for an unknown transfer, a result that does not fit an
 // int, and a null pointer where there is something to write.

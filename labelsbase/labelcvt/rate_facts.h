@@ -1,8 +1,8 @@
 // What every frame rate of the host is: one table, one row a rate. Label types, media and the tool read it.
 //
-//   facts_of(Kiv::FrameRate_29_97).frames_per_second()   // 29.970029970029973
-//   facts_of(Kiv::FrameRate_47_952).timecode_type        // tc_48_label_t
-//   facts_of(Kiv::FrameRate_47_952).counted_as           // Kiv::FrameRate_24
+//   facts_of(Kiv::FrameRate_29_97).frames_per_second()                  // 29.970029970029973
+//   facts_of(Kiv::FrameRate_47_952).timecode_type                       // tc_48_label_t
+//   facts_of(Kiv::FrameRate_47_952).counted_as == Kiv::FrameRate_24     // true
 #pragma once
 
 #include <algorithm>

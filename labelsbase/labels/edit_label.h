@@ -1,11 +1,11 @@
 // Labels that know the medium and the roll that their material is on.
 //
 //   EditLabel label{ntsc_label_t, {Medium_src_2997i, Gen_1st}};
-//   label.pitch                                              // 1001 / 30000: the medium runs at 29.97
+//   label.pitch                                              // 1001.0 / 30000, the medium runs at 29.97
 //   label.set_MediumRoll({Medium_src_30i, Gen_1st});
-//   label.pitch                                              // 1 / 30
+//   label.pitch                                              // 1.0 / 30
 //   EditLabel kept = "LABEL_REV:1 pal_label 01:00:00.00 250 0.0400000000 1 MediumRollId 20,2";
-//   kept.medium_roll                                         // {Medium_src_25i, Gen_1st}
+//   kept.medium_roll.medium == Medium_src_25i                // true
 #pragma once
 
 #include <atomic>

@@ -14,7 +14,7 @@
 // its counterpart. Nothing is rounded but where it says so.
 //
 //   Kiv::OutputGearing const at_30{Kiv::FrameRate_30, false};
-//   mPosn_Xlate_ClockToCel(4.0, at_30)     // 5.0 in a 24 frame project
+//   mPosn_Xlate_ClockToCel(4.0, at_30)     // 5.0, in a 24 frame project
 //   mPosn_Xlate_CelToClock(5.0, at_30)     // 4.0
 //   mround(2.99995)                        // 3.0
 #pragma once

@@ -5,7 +5,8 @@
 //   MPosn_Xlate_Params params;                        // the current project
 //   params.transfer = Transfer_project_rate;          // through the pulldown of its rates
 //   params.sequence = 4;
-//   params.modify_sequence_to_playfile_std(7);        // sequence = 1 for 30 frame video
+//   params.modify_sequence_to_playfile_std(7);
+//   params.sequence                                   // 1, in a cycle of 5 video frames
 #pragma once
 
 #include <cstdint>
