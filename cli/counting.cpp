@@ -8,6 +8,7 @@
 #include "cli/label_io.h"
 #include "cli/names.h"
 #include "cli/text.h"
+#include "labelsbase/framecounts/transfers.h"
 
 namespace cli {
 namespace {
@@ -26,14 +27,15 @@ constexpr counted_timecode counted_timecodes[] = {
 struct named_transfer {
   char const* name;
   transfer_type transfer;
-  int film_cycle, video_cycle;
 };
 
 constexpr named_transfer transfers[] = {
-    {"none", Transfer_none, 1, 1},
-    {"2:3", Transfer_2_3_pulldown, 4, 5},
-    {"24:25", Transfer_24_to_25, 24, 25},
+    {"none", Transfer_none},
+    {"2:3", Transfer_2_3_pulldown},
+    {"24:25", Transfer_24_to_25},
 };
+
+static_assert(std::ranges::all_of(transfers, labelsbase::find_transfer, &named_transfer::transfer));
 
 std::string two_digits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
 
@@ -135,7 +137,8 @@ pulldown find_pulldown(pulldown_arguments const& given) {
       std::ranges::find(transfers, given.transfer, [](auto const& t) { return std::string_view{t.name}; });
   if (row == std::end(transfers)) refuse("--transfer", given.transfer, "expected none, 2:3 or 24:25");
 
-  pulldown found{row->name, row->transfer, row->film_cycle, row->video_cycle, 0};
+  auto const& facts = *labelsbase::find_transfer(row->transfer);
+  pulldown found{row->name, facts.transfer, facts.film_cycle, facts.video_cycle, 0};
   int const last_phase = found.has_cadence() ? found.film_cycle : 0;
   auto const phase = signed_number(given.phase);
   if (!phase || *phase < 0 || *phase > last_phase)
