@@ -110,6 +110,15 @@ TEST(SetOption, ReadsRatesAsPeopleWriteThem) {
   }
 }
 
+TEST(SetOption, ReadsTruthInWordsAndDigits) {
+  for (char const* text : {"yes", "no", "TRUE", "false", "1", "0"}) {
+    bool const truth = *text == 'y' || *text == 'T' || *text == '1';
+    refhost::project_guard const project{{.drop_frame = !truth}};
+    EXPECT_EQ(refhost::set_option("drop-frame", text), std::nullopt);
+    EXPECT_EQ(refhost::project().drop_frame, truth) << text;
+  }
+}
+
 TEST(SetOption, ReadsScanModesAndTheProjectsRate) {
   refhost::project_guard const project{{.output_rate = Kiv::FrameRate_25}};
   std::pair<char const*, int> const cases[] = {
