@@ -1,26 +1,18 @@
 // Converters of a host's own classes, made with any argument, and what conversions leave behind in them.
 
-#include <gtest/gtest.h>
-
-#include <cstdint>
-#include <limits>
-#include <memory>
 #include <new>
-#include <string>
 
-#include "labelsbase/labels.h"
+#include "tests/testing.h"
 
 namespace {
 
-constexpr int least = std::numeric_limits<int>::min();
-constexpr int most = std::numeric_limits<int>::max();
-constexpr int odd_numbers[] = {least, least + 1, -1, 0, 1, 2, 100, 1'000'000'000, most - 4, most};
+constexpr int odd_numbers[] = {INT_MIN, INT_MIN + 1, -1, 0, 1, 2, 100, 1'000'000'000, INT_MAX - 4, INT_MAX};
 
 void exercise(label_cvt& cvt) {
   cvt.build_template();
   LabelPoint point{cvt, 1};
   cvt.set_prefix(&point, "AB1234567890+01");
-  for (int const sample : {least, -1, 0, 63, 640'001, most}) {
+  for (int const sample : {INT_MIN, -1, 0, 63, 640'001, INT_MAX}) {
     (void)std::string{cvt.get_abs_string(&point, sample)};
     (void)std::string{cvt.get_keep_string(&point, sample)};
     (void)cvt.normalise_sample_unit(sample);
@@ -69,7 +61,7 @@ class odd_timecode : public timecode_label {
 
 TEST(HostClass, OfATypeWithoutFactsCountsPlainly) {
   for (auto const type :
-       {null_label_t, foot_35_label_t, timecode_label_t, label_t{numLabelCvts}, label_t{least}}) {
+       {null_label_t, foot_35_label_t, timecode_label_t, label_t{numLabelCvts}, label_t{INT_MIN}}) {
     odd_timecode timecode{type};
     EXPECT_EQ(timecode.get_abs_sample("00:00:01.00"), 25);
     keycode_label key{type, 4};
@@ -96,7 +88,7 @@ TEST(HostClass, MayOverrideTheSamplesOfAFrame) {
 TEST(Registers, HoldTheLastConversion) {
   LabelPoint point{pal_label_t, 0};
   for (auto const type : {pal_label_t, ntsc_drop_label_t, tc_240_label_t}) {
-    auto& cvt = static_cast<timecode_label&>(*get_static_label_cvt(type));
+    auto& cvt = static_cast<timecode_label&>(shared(type));
     bool field = false;
     auto const holds = [&](int sample) {
       EXPECT_EQ(cvt.hmsf_to_sample(), sample) << cvt.type_str();
@@ -113,7 +105,7 @@ TEST(Registers, HoldTheLastConversion) {
 }
 
 TEST(Registers, OfKeyNumbersSurviveUnreadableText) {
-  auto& cvt = static_cast<keycode_label&>(*get_static_label_cvt(keycode_35_label_t));
+  auto& cvt = static_cast<keycode_label&>(shared(keycode_35_label_t));
   for (char const* text : {"AB1234569999+", "AB1234560009+x", "AB1234560009+123", "", "AB123456-001"}) {
     cvt.get_counts(100);
     EXPECT_EQ(cvt.get_abs_sample(text), -100'000'000) << text;
@@ -141,9 +133,7 @@ TEST(HostClass, NegativeSamplesWithoutASignColumnAreReportedFromPlacesOfTheirOwn
   std::string places[3];
   label_t const types[] = {pal_label_t, tc_120_label_t, tc_240_label_t};
   for (int i = 0; i < 3; ++i) {
-    testing::internal::CaptureStdout();
-    (void)get_static_label_cvt(types[i])->get_abs_string(&point, -1);
-    places[i] = testing::internal::GetCapturedStdout();
+    places[i] = said_by([&] { (void)shared(types[i]).get_abs_string(&point, -1); });
     EXPECT_TRUE(places[i].starts_with("assertion failed abs_sample >= 0 at labelsbase/labelcvt line "));
   }
   EXPECT_TRUE(places[0] != places[1] && places[1] != places[2] && places[2] != places[0]);

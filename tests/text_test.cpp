@@ -70,13 +70,6 @@ TEST(TextWriter, NeverWritesPastItsBuffer) {
   EXPECT_EQ(out.length(), 5U);
 }
 
-TEST(Integers, WrapAt32Bits) {
-  EXPECT_EQ(labelsbase::wrap_add(INT_MAX, 1), INT_MIN);
-  EXPECT_EQ(labelsbase::wrap_sub(INT_MIN, 1), INT_MAX);
-  EXPECT_EQ(labelsbase::wrap_mul(65'536, 65'536), 0);
-  EXPECT_EQ(labelsbase::wrap_negate(INT_MIN), INT_MIN);
-}
-
 TEST(Integers, DoublesThatDoNotFitAreTheInvalidSample) {
   // clang-format off
   struct { double value; int sample; } const cases[] = {
