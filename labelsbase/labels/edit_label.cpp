@@ -4,7 +4,7 @@
 
 #include "host/print.h"
 #include "labelsbase/labelcvt/label_cvt.h"
-#include "labelsbase/mposnxlate.h"
+#include "labelsbase/mposnxlate/clock_cel.h"
 #include "labelsbase/support/text.h"
 
 using namespace labelsbase;
