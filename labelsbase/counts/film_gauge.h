@@ -42,11 +42,11 @@ class film_gauge {
 
   // Perforations of a frame and of a key (foot, ink number), from 1 up; numbers below 1 count as 1.
   constexpr film_gauge(int perfs_per_frame, int perfs_per_count) noexcept
-      : per_frame_{perfs_per_frame}, perfs_per_count_{perfs_per_count < 1 ? 1 : perfs_per_count} {
-    has_whole_frames_ = perfs_per_count_ % per_frame_.divisor() == 0;
-    frames_per_count_ = (perfs_per_count_ - 1) / per_frame_.divisor() + 1;
-    per_count_ = reciprocal{has_whole_frames_ ? frames_per_count_ : perfs_per_count_};
-  }
+      : per_frame_{perfs_per_frame},
+        perfs_per_count_{perfs_per_count < 1 ? 1 : perfs_per_count},
+        frames_per_count_{(perfs_per_count_ - 1) / per_frame_.divisor() + 1},
+        has_whole_frames_{perfs_per_count_ % per_frame_.divisor() == 0},
+        per_count_{has_whole_frames_ ? frames_per_count_ : perfs_per_count_} {}
 
   // Returns a gauge by the frames of a key, where keys hold whole frames.
   [[nodiscard]] static constexpr film_gauge of_frames(int perfs_per_frame, int frames_per_count) noexcept {
@@ -95,10 +95,10 @@ class film_gauge {
   }
 
   reciprocal per_frame_;
-  reciprocal per_count_;  // by frames where keys hold whole frames, else by perforations
   int perfs_per_count_;
-  int frames_per_count_ = 1;
-  bool has_whole_frames_ = true;
+  int frames_per_count_;
+  bool has_whole_frames_;
+  reciprocal per_count_;  // by frames where keys hold whole frames, else by perforations
 };
 
 }  // namespace labelsbase

@@ -196,12 +196,17 @@ int Label::abs_posn_to_sample(double posn_seconds) const {
   return sample_at(posn_seconds + pitch / 500, pitch);
 }
 
+// The host answers once for each of its speeds. A host that asks for a natural pitch while it answers gets the
+// nominal one.
 double Label::get_natural_pitch(label_t type) {
+  thread_local bool is_asking_host = false;
+  auto const& facts = facts_of(type);
+  if (!facts.timecode.at_host_speed || is_asking_host) return 1.0 / facts.samples_per_second();
+
+  is_asking_host = true;
   static double const pal_pitch = 1.0 / get_vid_fps(pal_label_t);
   static double const ntsc_pitch = 1.0 / get_vid_fps(ntsc_label_t);
-
-  auto const& facts = facts_of(type);
-  if (!facts.timecode.at_host_speed) return 1.0 / facts.samples_per_second();
+  is_asking_host = false;
   return type == pal_label_t ? pal_pitch : ntsc_pitch;
 }
 
