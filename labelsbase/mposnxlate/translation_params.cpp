@@ -17,6 +17,11 @@ void set_output_rate(MPosn_Xlate_Params& params, Kiv::FrameRate rate) {
   params.output_1001 = Kiv::has1001Factor(rate);
 }
 
+void set_output(MPosn_Xlate_Params& params, Kiv::FrameRate rate, bool pulled_down) {
+  set_output_rate(params, rate);
+  params.output_pulled_down = pulled_down;
+}
+
 void set_project(MPosn_Xlate_Params& params, Kiv::FrameRate rate) {
   params.project_rate = rate;
   params.cel_resolution = Kiv::getCelResolution(rate);
@@ -27,8 +32,8 @@ void set_project(MPosn_Xlate_Params& params, Kiv::FrameRate rate) {
 MPosn_Xlate_Params::MPosn_Xlate_Params() { init(); }
 
 MPosn_Xlate_Params::MPosn_Xlate_Params(Kiv::OutputGearing const& gearing) : MPosn_Xlate_Params{} {
-  set_output_rate(*this, gearing.getFrameRate());
-  output_pulled_down = gearing.getUsePulldown();
+  auto const rate = gearing.getFrameRate();
+  set_output(*this, rate, gearing.getUsePulldown());
 }
 
 // The host is asked in the order of the fields.
@@ -75,8 +80,7 @@ void MPosn_Xlate_Params::init_to_default_playout_generation() {
 void MPosn_Xlate_Params::initOutputFormat(Kiv::FrameRate project, Kiv::FrameRate output, bool pulledDown) {
   init();
   set_project(*this, project);
-  set_output_rate(*this, output);
-  output_pulled_down = pulledDown;
+  set_output(*this, output, pulledDown);
 }
 
 void MPosn_Xlate_Params::modify_sequence_to_playfile_std(int delta) {
