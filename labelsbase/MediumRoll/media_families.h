@@ -1,4 +1,4 @@
-// Private: media that stand for each other. Interlaced and progressive video at one nominal rate are one family,
+// Private: media that can replace each other. Interlaced and progressive video at one nominal rate are one family,
 // and so is video at twice that rate:
 //
 //   24   24p, 24i, 2398p, 2398i, and film24 as a source

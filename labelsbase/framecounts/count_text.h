@@ -66,7 +66,7 @@ LABELSBASE_API int keycode_to_film_frames(int* film, char* text, int phase, int*
                                           int per_key) noexcept;
 
 // Writes a key number. There are 10 to the number of consecutive bits set in `digits` keys, from bit 2 (0x04) up:
-// 0x3C stands for four digits. A frame up to that span before the first or after the last one moves into it. For
+// 0x3C means four digits. A frame up to that span before the first or after the last one moves into it. For
 // Label_keycode_3perf, `phase` is the phase of key 0, and `phase_out` receives the phase of the key written.
 LABELSBASE_API int film_frames_to_keycode(int film, char* text, int phase, int* phase_out, label_type label,
                                           int per_key, unsigned char digits) noexcept;

@@ -46,7 +46,7 @@ void put_start(text_writer& out, LabelPoint& start) {
   for (int i = 0; *text; ++i, ++text) out.put(*text == ' ' && i < prefix_length ? '_' : *text);
 }
 
-// Samples per unit of length and pitch; 1 for a converter that gives none.
+// Returns the samples in a unit of length and pitch: those of a frame, or 1 if the converter answers 0 or less.
 int unit_of(label_cvt const& cvt) { return std::max(cvt.samples_per_unit(), 1); }
 
 }  // namespace

@@ -35,7 +35,7 @@ struct number_form {
 inline constexpr number_form decimal_form{is_digit, 'E', 1, std::chars_format::general};
 inline constexpr number_form hexadecimal_form{is_hex_digit, 'P', 4, std::chars_format::hex};
 
-// A part of a number: where it ends, and the exponent that it stands for.
+// A part of a number: where it ends, and its exponent.
 struct number_part {
   char const* end;
   std::int64_t exponent;
