@@ -24,6 +24,18 @@ bool has_label(label_cvt& cvt, int sample) {
   }
 }
 
+// Reads timecode as the C library would, field by field.
+int read_as_sscanf_does(char const* text, int fps) {
+  bool const negative = *text == '-';
+  int h = 0, m = 0, s = 0, f = 0;
+  char separator = 0;
+  if (std::sscanf(text + negative, "%d:%d:%d%c%d", &h, &m, &s, &separator, &f) != 5)
+    return negative ? labelsbase::unreadable_negative_sample : labelsbase::invalid_sample;
+  auto const seconds = (static_cast<unsigned>(h) * 60 + static_cast<unsigned>(m)) * 60 + static_cast<unsigned>(s);
+  auto const sum = seconds * static_cast<unsigned>(fps) + static_cast<unsigned>(f);
+  return static_cast<int>(negative ? 0 - sum : sum);
+}
+
 }  // namespace
 
 int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
@@ -32,6 +44,11 @@ int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
   int const sample = input.number();
   auto const text = input.rest();
 
+  for (label_t const timecode : {pal_label_t, tc_240_label_t}) {
+    auto& cvt = *get_static_label_cvt(timecode);
+    demand(cvt.get_abs_sample(text.c_str()) == read_as_sscanf_does(text.c_str(), cvt.get_modulus()),
+           "timecode is read as sscanf reads it", text);
+  }
   std::unique_ptr<label_cvt> const cvt{make_any_label_cvt(type)};
   LabelPoint point{*cvt, 0};
   cvt->set_prefix(&point, text.c_str());

@@ -1,4 +1,4 @@
-// Reading and writing of text, held against the C library.
+// Reading and writing of text. What is read is held against the C library by a fuzz target.
 
 #include "labelsbase/support/text.h"
 #include "labelsbase/counts/reciprocal.h"
@@ -8,34 +8,6 @@ namespace {
 
 using labelsbase::text_reader;
 using labelsbase::text_writer;
-
-TEST(TextReader, ReadsNumbersAsScanfDoes) {
-  std::string const alphabet = "0123456789+- \t\v:.x\xE9";
-  std::mt19937 random{1};
-  for (int i = 0; i < 40'000; ++i) {
-    std::string text;
-    auto const length = random() % 28;
-    auto const digits_only = random() % 2 == 0;
-    for (unsigned k = 0; k < length; ++k) text += alphabet[random() % (digits_only ? 13 : alphabet.size())];
-
-    struct {
-      char const* format;
-      int width;
-    } const conversions[] = {{"%d%n", INT_MAX}, {"%2d%n", 2}, {"%3d%n", 3}};
-    for (auto const& conversion : conversions) {
-      int expected = 0, end = 0;
-      bool const readable = std::sscanf(text.c_str(), conversion.format, &expected, &end) == 1;
-      text_reader reader{text.c_str()};
-      auto const number = reader.number(conversion.width);
-      ASSERT_EQ(number.has_value(), readable) << '"' << text << "\" as " << conversion.format;
-      if (!readable) continue;
-      ASSERT_EQ(*number, expected) << '"' << text << "\" as " << conversion.format;
-      auto const next = text[static_cast<std::size_t>(end)];
-      auto const rest = reader.character();
-      ASSERT_EQ(rest.value_or('\0'), next) << '"' << text << "\" as " << conversion.format;
-    }
-  }
-}
 
 TEST(TextReader, KeepsTheLowBitsOfSaturatedNumbers) {
   // clang-format off

@@ -65,45 +65,6 @@ TEST(TimecodeText, FormatsExpectTheFieldsThatTheyWrite) {
   EXPECT_EQ(seconds.get_abs_sample("01.00"), 25) << "the hour and minute before are forgotten";
 }
 
-// The rule of the C library, field by field.
-int read_as_scanf_does(char const* text, int fps) {
-  bool const negative = *text == '-';
-  int h, m, s, f;
-  char separator;
-  if (std::sscanf(text, negative ? "-%d:%d:%d%c%d" : "%d:%d:%d%c%d", &h, &m, &s, &separator, &f) != 5)
-    return negative ? 100'000'000 : -100'000'000;
-  auto const sum = ((static_cast<unsigned>(h) * 60 + static_cast<unsigned>(m)) * 60 + static_cast<unsigned>(s)) *
-                       static_cast<unsigned>(fps) +
-                   static_cast<unsigned>(f);
-  return static_cast<int>(negative ? 0 - sum : sum);
-}
-
-TEST(TimecodeText, IsReadAsTheCLibraryReads) {
-  std::string const alphabet = "0123456789:;.+- \t";
-  std::mt19937 random{7};
-  auto& pal = shared(pal_label_t);
-  auto& fast = shared(tc_240_label_t);
-  for (int i = 0; i < 30'000; ++i) {
-    char written[32];
-    std::snprintf(written, sizeof written, "%s%02u:%02u:%02u%c%02u", random() % 2 ? " " : "",
-                  static_cast<unsigned>(random() % 100), static_cast<unsigned>(random() % 100),
-                  static_cast<unsigned>(random() % 100), alphabet[10 + random() % 7],
-                  static_cast<unsigned>(random() % 1100));
-    std::string text = written;
-    for (auto damage = random() % 4; damage > 0; --damage) {
-      auto const at = random() % text.size();
-      if (random() % 3 == 0)
-        text.resize(at + 1);
-      else if (random() % 2)
-        text[at] = alphabet[random() % alphabet.size()];
-      else
-        text.insert(at, 1, alphabet[random() % alphabet.size()]);
-    }
-    ASSERT_EQ(pal.get_abs_sample(text.c_str()), read_as_scanf_does(text.c_str(), 25)) << '"' << text << '"';
-    ASSERT_EQ(fast.get_abs_sample(text.c_str()), read_as_scanf_does(text.c_str(), 240)) << '"' << text << '"';
-  }
-}
-
 TEST(TimecodeText, IsReadTolerantly) {
   // clang-format off
   expect_read({
