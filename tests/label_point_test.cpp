@@ -46,9 +46,10 @@ TEST(LabelPoint, ComparesTypeSampleAndPrefix) {
   prefixed_label cvt;
   LabelPoint film{cvt, 5};
   LabelPoint same_film = film;
-  std::strcpy(film.prefix, "KJ");
+  std::strcpy(film.prefix, "KJ123456789012345678");
+  std::strcpy(same_film.prefix, "KJ123456789012345679");
   EXPECT_TRUE(film != same_film);
-  std::strcpy(same_film.prefix, "KJ");
+  std::strcpy(same_film.prefix, film.prefix);
   EXPECT_TRUE(film == same_film);
 }
 
