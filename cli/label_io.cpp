@@ -9,7 +9,7 @@
 #include "cli/film.h"
 #include "cli/names.h"
 #include "cli/text.h"
-#include "labelcheck/label_check.h"
+#include "labelsbase/characters.h"
 
 namespace cli {
 namespace {
@@ -17,18 +17,18 @@ namespace {
 // Positions and suggestions refer to what the user typed, without the first `untyped` characters. Columns count
 // from 1.
 std::string worded(labelcheck::refusal const& refused, std::string_view untyped = "") {
-  if (refused.nearest.empty()) return refused.rule;
+  auto const why = explain(refused);
+  if (refused.nearest.empty()) return why;
   auto const column = refused.position - std::min(refused.position, untyped.size()) + 1;
   auto nearest = refused.nearest;
   if (nearest.starts_with(untyped)) nearest.erase(0, untyped.size());
-  return refused.rule + " (column " + std::to_string(column) + "); nearest is " + nearest;
+  return why + " (column " + std::to_string(column) + "); nearest is " + nearest;
 }
 
 problem read_whole(label_kind const& kind, std::string_view text, std::string_view untyped, label_parts& out) {
-  if (auto const refused = labelcheck::check(kind.type, text)) return worded(*refused, untyped);
-  auto& converter = *get_static_label_cvt(kind.type);
-  out = {converter.get_abs_sample(text.data()),
-         text.substr(0, static_cast<std::size_t>(converter.get_prefix_length()))};
+  auto const read = labelcheck::read(kind.type, text);
+  if (auto const* const refused = std::get_if<labelcheck::refusal>(&read)) return worded(*refused, untyped);
+  out = std::get<labelcheck::reading>(read);
   return std::nullopt;
 }
 
@@ -73,8 +73,7 @@ label_kind find_label_kind(label_arguments const& given) {
   auto const length = static_cast<std::size_t>(facts.film.prefix_length);
   if (length == 0)
     refuse("--prefix", *given.prefix, std::string{facts.name} + " has no prefix; leave out --prefix");
-  auto const is_printable = [](char c) { return c > ' ' && c <= '~'; };
-  if (given.prefix->size() != length || !std::ranges::all_of(*given.prefix, is_printable))
+  if (given.prefix->size() != length || !std::ranges::all_of(*given.prefix, labelsbase::is_printable))
     refuse("--prefix", *given.prefix,
            "expected the " + std::to_string(length) + " characters before the count of a " + facts.name +
                ", printable and without blanks");

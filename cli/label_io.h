@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "cli/input.h"
+#include "labelcheck/read.h"
 #include "labelsbase/labels.h"
 
 namespace CLI {
@@ -17,12 +18,9 @@ class App;
 namespace cli {
 
 // What a label says.
-struct label_parts {
-  int sample;
-  std::string_view prefix;  // of a key number or ink number: part of the text that was read
-};
+using label_parts = labelcheck::reading;
 
-// Reads a label strictly, prefix included, or returns what is wrong with it. The text must be terminated.
+// Reads a label strictly, prefix included, or returns what is wrong with it.
 [[nodiscard]] problem read_label(label_t type, std::string_view text, label_parts& out);
 
 // The arguments TYPE and --prefix.

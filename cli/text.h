@@ -9,11 +9,13 @@
 #include <string>
 #include <string_view>
 
+#include "labelsbase/characters.h"
 #include "refhost/whole_number.h"
 
 namespace cli {
 
-[[nodiscard]] constexpr bool is_digit(char c) noexcept { return c >= '0' && c <= '9'; }
+using labelsbase::is_digit;
+
 [[nodiscard]] constexpr bool all_digits(std::string_view text) noexcept {
   return std::ranges::all_of(text, is_digit);
 }

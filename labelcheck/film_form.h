@@ -1,39 +1,71 @@
-// The form of a film type's labels, and the parts that a text of that form falls into.
+// How the labels of film types look.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 
-#include "labelsbase/labelcvt.h"
+#include "labelsbase/labelcvt/label_facts.h"
 
 namespace labelcheck {
 
-struct film_form {
-  UserLabelType family;
-  bool has_prefix;
-  bool has_frames;               // behind the count; film frames are themselves the count
-  bool names_perforation;        // at the end, as film with three perforations a frame has it
-  char separator;                // before the frames
-  std::size_t prefix_length;     // characters
-  std::size_t digits;            // of the count, or of feet and film frames at least
-  std::int64_t last_count;       // keys, ink numbers, feet or film frames
-  int last_frame;                // within the key, ink number or foot
-  std::string_view some_prefix;  // one that the type could have
+// The form of a film type's labels:
+//
+//   key or ink number   prefix count separator frame
+//   3-perf key number   prefix count separator frame "." perforation
+//   feet                (" " | "-")? feet separator frame
+//   3-perf feet         (" " | "-")? feet separator frame "." perforation
+//   film frames         "-"? frames
+class film_form {
+ public:
+  explicit constexpr film_form(labelsbase::label_facts const& facts) noexcept : facts_{facts} {}
 
-  [[nodiscard]] std::size_t head_length() const noexcept { return prefix_length + digits; }
+  [[nodiscard]] constexpr label_t type() const noexcept { return facts_.type; }
+  [[nodiscard]] constexpr UserLabelType family() const noexcept { return facts_.family; }
+  [[nodiscard]] constexpr labelsbase::film_gauge const& gauge() const noexcept { return facts_.film.gauge; }
+  [[nodiscard]] constexpr char separator() const noexcept { return facts_.film.separator; }
+
+  [[nodiscard]] constexpr bool has_prefix() const noexcept { return facts_.film.prefix_length > 0; }
+  [[nodiscard]] constexpr bool has_frames() const noexcept { return family() != User_film_frames; }
+  [[nodiscard]] constexpr bool names_perforation() const noexcept { return facts_.film.names_perforation(); }
+
+  // Return the characters of the prefix, the digits of the count, feet or film frames, and the characters of
+  // prefix and count together. Feet and film frames may have more digits.
+  [[nodiscard]] constexpr std::size_t prefix_length() const noexcept {
+    return static_cast<std::size_t>(facts_.film.prefix_length);
+  }
+  [[nodiscard]] constexpr int digits() const noexcept { return facts_.film.count_digits; }
+  [[nodiscard]] constexpr std::size_t head_length() const noexcept {
+    return static_cast<std::size_t>(facts_.film.prefix_length + digits());
+  }
+
+  // Returns the largest key, ink number, feet or film frames. Feet run ten times as far as their digits, and one
+  // foot further at 3 perforations a frame.
+  [[nodiscard]] constexpr std::int64_t last_count() const noexcept {
+    if (!has_frames()) return std::numeric_limits<std::int32_t>::max();
+    std::int64_t counts = has_prefix() ? 1 : 10;
+    for (int digit = 0; digit < digits(); ++digit) counts *= 10;
+    return has_prefix() || !names_perforation() ? counts - 1 : counts;
+  }
+
+  // Returns the smallest film frames, one further from zero than the largest, or else -last_count().
+  [[nodiscard]] constexpr std::int64_t lowest_count() const noexcept { return -last_count() - !has_frames(); }
+
+  // Returns the largest frame within a key, ink number or foot.
+  [[nodiscard]] constexpr int last_frame() const noexcept { return gauge().frames_per_count() - 1; }
+
+  // Returns the prefix that stands in for a missing one.
+  [[nodiscard]] constexpr std::string_view dummy_prefix() const noexcept {
+    return std::string_view{facts_.film.dummy_prefix}.substr(0, prefix_length());
+  }
+
+ private:
+  labelsbase::label_facts const& facts_;
 };
 
-[[nodiscard]] film_form film_form_of(label_cvt& cvt);
-
-// Prefix and count as they stand in one run of characters.
-struct film_head {
-  std::string_view prefix;
-  std::string_view count;
-};
-
-// A label by its parts; those that its form lacks are passed over.
+// A label by its parts. Those that its form lacks are ignored.
 struct film_label {
   std::string prefix;
   bool negative = false;
@@ -42,18 +74,6 @@ struct film_label {
   int perforation = 1;
 };
 
-// The characters before the frames: up to the separator, or to what people write for it.
-[[nodiscard]] std::string_view head_of(film_form const& form, std::string_view text) noexcept;
-
-// Parts prefix and count of a head. With characters too many or too few, the count is taken to be wrong where
-// there are only digits behind a whole prefix, else the prefix.
-[[nodiscard]] film_head split(film_form const& form, std::string_view head) noexcept;
-
-// The label nearest to what `text` says, each field as close as may be; empty when it says nothing of the kind.
-[[nodiscard]] std::string nearest_film_label(film_form const& form, std::string_view text);
-
 [[nodiscard]] std::string written(film_form const& form, film_label const& label);
-
-[[nodiscard]] constexpr bool is_printable(char c) noexcept { return c > ' ' && c <= '~'; }
 
 }  // namespace labelcheck

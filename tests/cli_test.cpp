@@ -91,7 +91,7 @@ TEST_F(Tool, RefusesAnItemAndProcessesTheRest) {
       {"labels read F35 --prefix KJ123456 0123+16 EH1234560123+07 x", "",
        "labels: argument 1: \"0123+16\": frames run from 00 to 15 (column 6); nearest is 0123+15\n"
        "labels: argument 2: \"EH1234560123+07\": the prefix is EH123456; expected KJ123456\n"
-       "labels: argument 3: \"x\": this is ",
+       "labels: argument 3: \"x\": not a key number; expected a label like XX0000000000+00\n",
        1},
       {"labels add F353 KJ1234560000+00.1 -1 1.5 2147483647 1", "KJ1234560000+01.1\n",
        "labels: argument 1: \"-1\": leads beyond the first or last key, where the labels do not go on\n"

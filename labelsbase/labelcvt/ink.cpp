@@ -46,7 +46,7 @@ constexpr int perfs_of(label_t type) noexcept { return facts_of(type).film.gauge
 ink_label::ink_label(int frames_per_count, int perfs_per_frame)
     : prefix_label{std::max(frames_per_count, 1), std::max(perfs_per_frame, 1), 8} {
   set_count_len(4);
-  dummy_prefix_ = "XXXX";
+  dummy_prefix_ = facts_of(ink_35_label_t).film.dummy_prefix;
   ink_label::build_template();
 }
 

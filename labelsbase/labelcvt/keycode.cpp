@@ -27,7 +27,7 @@ keycode_label::keycode_label(label_t gauge_type, unsigned count_digits)
       reports_perfs_{film_of(gauge_type).reports_perfs} {
   separator_ = film_of(gauge_type).separator;
   set_count_len(count_digits);
-  dummy_prefix_ = "XX000000";
+  dummy_prefix_ = facts_of(keycode_35_label_t).film.dummy_prefix;
   if (gauge_.has_whole_frames()) prefix_label::build_template();
 }
 

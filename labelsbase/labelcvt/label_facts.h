@@ -63,6 +63,9 @@ struct film_facts {
   int count_digits = 0;       // of the key or ink number; the fewest of feet and frames; 0 for others
   bool reports_perfs = true;  // whether perfs_per_keyKode() reports the perforations of a key, or 1
 
+  // The prefix of labels that have none of their own; its first `prefix_length` characters.
+  char const* dummy_prefix = "";
+
   // Whether labels end in the perforation within the frame, 1 to 3.
   [[nodiscard]] constexpr bool names_perforation() const noexcept { return !gauge.has_whole_frames(); }
 };
@@ -157,7 +160,11 @@ namespace forms {
 // Key numbers have 12 characters of prefix and count.
 [[nodiscard]] consteval label_form keys(film_gauge const& gauge, int digits, char separator = '+') {
   return {.family = User_keycode,
-          .film = {.gauge = gauge, .separator = separator, .prefix_length = 12 - digits, .count_digits = digits}};
+          .film = {.gauge = gauge,
+                   .separator = separator,
+                   .prefix_length = 12 - digits,
+                   .count_digits = digits,
+                   .dummy_prefix = "XX000000"}};
 }
 
 // Deliberate: these report 1 perforation a key, which hosts rely on.
@@ -168,7 +175,8 @@ namespace forms {
 }
 
 [[nodiscard]] consteval label_form ink(film_gauge const& gauge) {
-  return {.family = User_ink, .film = {.gauge = gauge, .prefix_length = 4, .count_digits = 4}};
+  return {.family = User_ink,
+          .film = {.gauge = gauge, .prefix_length = 4, .count_digits = 4, .dummy_prefix = "XXXX"}};
 }
 
 [[nodiscard]] consteval label_form feet(film_gauge const& gauge) {

@@ -48,7 +48,7 @@ bool LabelTemplate::isValidChar(char c, unsigned pos) const noexcept {
   char const limit = text_.c_str()[pos];
   auto const code = static_cast<signed char>(c);
 
-  if (limit == '?') return code > ' ' && code <= '~';
+  if (limit == '?') return is_printable(c);
   if (is_digit(limit)) return c >= '0' && c <= limit;
   if (is_alphanumeric(limit)) return code >= 'A' && code <= limit;
   if (limit == '-') return c == '+' || c == '-' || c == ' ';

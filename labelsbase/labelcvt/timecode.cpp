@@ -32,9 +32,9 @@ static_assert(typed_frames(24) == 29 && typed_frames(60) == 59 && typed_frames(1
 
 // Reads two digits at `text`. Returns false if other characters are there.
 inline bool read_pair(char const* text, int& value) noexcept {
-  auto const tens = static_cast<unsigned>(text[0]) - '0';
+  auto const tens = digit_value(text[0]);
   if (tens > 9) return false;
-  auto const units = static_cast<unsigned>(text[1]) - '0';
+  auto const units = digit_value(text[1]);
   if (units > 9) return false;
   value = static_cast<int>(tens * 10 + units);
   return true;

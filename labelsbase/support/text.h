@@ -8,19 +8,13 @@
 #include <optional>
 #include <string_view>
 
+#include "labelsbase/characters.h"
 #include "labelsbase/counts/integers.h"
 #include "labelsbase/support/digits.h"
 
 namespace labelsbase {
 
 [[nodiscard]] constexpr char const* or_empty(char const* text) noexcept { return text ? text : ""; }
-
-[[nodiscard]] constexpr bool is_digit(char c) noexcept { return c >= '0' && c <= '9'; }
-[[nodiscard]] constexpr bool is_upper(char c) noexcept { return c >= 'A' && c <= 'Z'; }
-[[nodiscard]] constexpr bool is_lower(char c) noexcept { return c >= 'a' && c <= 'z'; }
-[[nodiscard]] constexpr bool is_alphanumeric(char c) noexcept { return is_digit(c) || is_upper(c) || is_lower(c); }
-[[nodiscard]] constexpr bool is_blank(char c) noexcept { return c == ' ' || (c >= '\t' && c <= '\r'); }
-[[nodiscard]] constexpr char to_upper(char c) noexcept { return is_lower(c) ? static_cast<char>(c - 32) : c; }
 
 // Writes into a buffer of a fixed size: never past its end, always terminated. Drops what does not fit.
 class text_writer {

@@ -1,0 +1,27 @@
+// The strict reader of key numbers, ink numbers, feet and film frames.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "labelcheck/film_form.h"
+#include "labelcheck/read.h"
+
+namespace labelcheck {
+
+// As read, for a type of film.
+[[nodiscard]] std::variant<reading, refusal> read_film(labelsbase::label_facts const& facts,
+                                                       std::string_view text);
+
+// Reads as much as people would, and moves each field to the nearest that exists. Returns an empty text if nothing
+// is legible.
+//
+//   blank* head                  (other* frame (other* perforation)?)?     key or ink number; head: see head_of
+//   blank* ("-" | "+")? blank* feet (other* frame (other* perforation)?)?
+//   blank* ("-" | "+")? blank* frames
+//
+// Blanks and dashes within the head are skipped; `other` is any character but a digit.
+[[nodiscard]] std::string nearest_film_label(film_form const& form, std::string_view text);
+
+}  // namespace labelcheck

@@ -1,0 +1,37 @@
+// The strict reader of timecode.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "labelcheck/read.h"
+#include "labelsbase/labelcvt/label_facts.h"
+
+namespace labelcheck {
+
+// How the labels of a type look and count.
+struct timecode_form {
+  labelsbase::timecode_facts const& facts;
+  int frames_per_second;  // after the host's setting
+  bool is_slow;           // two samples a frame: ":" before the frames marks the second one
+
+  [[nodiscard]] constexpr labelsbase::timecode_count count() const noexcept {
+    return labelsbase::timecode_count{frames_per_second, facts.drop_frame};
+  }
+  [[nodiscard]] constexpr int last_frame() const noexcept { return frames_per_second - 1; }
+};
+
+// As read, for a type of timecode.
+[[nodiscard]] std::variant<reading, refusal> read_timecode(labelsbase::label_facts const& facts,
+                                                           std::string_view text);
+
+// Reads as much as people would, and moves each number to the nearest that exists. Returns an empty text if
+// nothing is legible.
+//
+//   blank* ("-" | "+")? blank* digit*, then up to three times: mark blank* digit*       mark: one of :;.,+-
+//
+// Skips other characters behind the digits of a field. Fields that are left out are 0.
+[[nodiscard]] std::string nearest_timecode(timecode_form const& form, std::string_view text);
+
+}  // namespace labelcheck

@@ -1,0 +1,64 @@
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+#include "labelcheck/text.h"
+#include "labelcheck/timecode.h"
+
+using labelsbase::is_blank;
+
+namespace labelcheck {
+namespace {
+
+// What people write between the numbers.
+constexpr bool is_mark(char c) noexcept { return std::string_view{":;.,+-"}.find(c) != std::string_view::npos; }
+
+void skip(std::string_view& text, auto unwanted) {
+  text.remove_prefix(static_cast<std::size_t>(std::ranges::find_if_not(text, unwanted) - text.begin()));
+}
+
+std::string written(timecode_form const& form, bool negative, labelsbase::timecode_fields at, char separator) {
+  if (negative && form.facts.drop_frame) at = {0, 0, 0, 0};
+  if (form.count().leaves_out(at)) at.frames = 2;
+
+  std::string text{negative && !form.facts.drop_frame ? "-" : ""};
+  append_number(text, at.hours, 2);
+  append_number(text += ':', at.minutes, 2);
+  append_number(text += ':', at.seconds, 2);
+  append_number(text += separator, at.frames, form.facts.frame_digits());
+  return text;
+}
+
+}  // namespace
+
+std::string nearest_timecode(timecode_form const& form, std::string_view text) {
+  skip(text, is_blank);
+  bool const negative = text.starts_with('-');
+  if (negative || text.starts_with('+')) text.remove_prefix(1);
+
+  constexpr std::size_t frames = 3;
+  std::array const last{23, 59, 59, form.last_frame()};
+  std::array numbers{0, 0, 0, 0};
+  char separator = form.facts.separator;
+  bool legible = false;
+  for (std::size_t part = 0; part <= frames; ++part) {
+    skip(text, is_blank);
+    auto const digits = digits_of(text);
+    if (part == 0 && digits.empty() && !text.empty() && !is_mark(text.front())) return "";
+    legible = legible || !digits.empty();
+    numbers[part] = static_cast<int>(std::min<std::int64_t>(value_of(digits), last[part]));
+
+    skip(text, [](char c) { return !is_mark(c) && !is_blank(c); });
+    if (text.empty() || part == frames) break;
+    if (is_blank(text.front())) {  // more than a label: blanks may only end it
+      if (std::ranges::all_of(text, is_blank)) break;
+      return "";
+    }
+    if (part + 1 == frames && form.is_slow && text.front() == ':') separator = ':';
+    text.remove_prefix(1);
+  }
+  if (!legible) return "";
+  return written(form, negative, {numbers[0], numbers[1], numbers[2], numbers[3]}, separator);
+}
+
+}  // namespace labelcheck

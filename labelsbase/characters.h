@@ -1,0 +1,23 @@
+// Classes of characters in labels: ASCII, whatever the program's locale.
+//
+//   is_digit('7')        // true
+//   is_blank('\t')       // true: blank, tab, line feed, vertical tab, form feed, carriage return
+//   is_printable(' ')    // false: "!" to "~"
+#pragma once
+
+namespace labelsbase {
+
+[[nodiscard]] constexpr bool is_digit(char c) noexcept { return c >= '0' && c <= '9'; }
+[[nodiscard]] constexpr bool is_upper(char c) noexcept { return c >= 'A' && c <= 'Z'; }
+[[nodiscard]] constexpr bool is_lower(char c) noexcept { return c >= 'a' && c <= 'z'; }
+[[nodiscard]] constexpr bool is_alphanumeric(char c) noexcept { return is_digit(c) || is_upper(c) || is_lower(c); }
+[[nodiscard]] constexpr bool is_blank(char c) noexcept { return c == ' ' || (c >= '\t' && c <= '\r'); }
+[[nodiscard]] constexpr bool is_printable(char c) noexcept { return c > ' ' && c <= '~'; }
+
+// Returns the value of a digit, 0 to 9, or a number above 9 for any other character.
+[[nodiscard]] constexpr unsigned digit_value(char c) noexcept { return static_cast<unsigned>(c) - '0'; }
+
+// Returns the capital of a lower-case letter, and any other character as it is.
+[[nodiscard]] constexpr char to_upper(char c) noexcept { return is_lower(c) ? static_cast<char>(c - 32) : c; }
+
+}  // namespace labelsbase
