@@ -1,15 +1,15 @@
-# The installed package: find_package(labelsbase) gives the targets labelsbase::labelsbase, labels_host, refhost
-# and labelcheck.
+# The installed package: find_package(labelsbase) defines the targets labelsbase::labelsbase, labelsbase::host (the
+# declarations alone), labelsbase::refhost and labelsbase::labelcheck.
 
 include(CMakePackageConfigHelpers)
 
 set(labelsbase_include_dir "${CMAKE_INSTALL_INCLUDEDIR}/labelsbase-${PROJECT_VERSION_MAJOR}")
 set(labelsbase_cmake_dir "${CMAKE_INSTALL_LIBDIR}/cmake/labelsbase")
 
-install(TARGETS labels_host labelsbase refhost labelcheck
+install(TARGETS labelsbase_host labelsbase refhost labelcheck
         EXPORT labelsbaseTargets
         FILE_SET HEADERS DESTINATION "${labelsbase_include_dir}")
-if(LABELS_TOOL)
+if(LABELSBASE_TOOL)
   install(TARGETS labels EXPORT labelsbaseTargets)
 endif()
 

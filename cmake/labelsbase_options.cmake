@@ -1,0 +1,25 @@
+# labelsbase_options: warnings and sanitizers of this project's own targets. Link it as
+# $<BUILD_INTERFACE:labelsbase_options>, so that it stays out of the installed package.
+
+option(LABELSBASE_WERROR "Treat compiler warnings as errors" OFF)
+set(LABELSBASE_SANITIZE "" CACHE STRING "Sanitizers, as -fsanitize takes them: address,undefined or thread")
+
+add_library(labelsbase_options INTERFACE)
+
+target_compile_options(labelsbase_options INTERFACE
+  -Wall -Wextra -Wpedantic
+  -Wcast-align -Wcast-qual -Wconversion -Wdouble-promotion -Wextra-semi -Wformat=2 -Wimplicit-fallthrough
+  -Wmissing-declarations -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual -Wshadow -Wsign-conversion
+  -Wundef -Wunused
+  -Wno-format-nonliteral  # tests compare with snprintf and sscanf, format by format
+  -Wno-trigraphs          # "???" is the text of an invalid label
+  $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-branches -Wduplicated-cond -Wlogical-op -Wsuggest-override>
+  $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>  # g++ 12 at -O3 mistakes the standard string's own copies for overlapping
+  $<$<BOOL:${LABELSBASE_WERROR}>:-Werror>)
+
+if(LABELSBASE_SANITIZE)
+  target_compile_options(labelsbase_options INTERFACE
+    -fsanitize=${LABELSBASE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_compile_definitions(labelsbase_options INTERFACE _GLIBCXX_ASSERTIONS)
+  target_link_options(labelsbase_options INTERFACE -fsanitize=${LABELSBASE_SANITIZE})
+endif()
