@@ -1,5 +1,5 @@
-// Film and video frames, counted from 1: across a pulldown, and as label texts. Plain functions that return a status,
-// or 0 on failure. The whole module.
+// Film and video frames, counted from 1: across a pulldown, and as label texts. Plain functions that return a
+// status, or 0 on failure. The whole module.
 #pragma once
 
 #include "labelsbase/framecounts/count_text.h"

@@ -13,8 +13,8 @@ inline constexpr int invalid_sample = -100'000'000;
 inline constexpr int past_end_sample = 100'000'001;
 inline constexpr int before_start_sample = 100'000'002;
 
-// What timecode returns for unreadable text that begins with "-". Deliberately not the invalid sample: hosts tell the two
-// apart.
+// What timecode returns for unreadable text that begins with "-". Deliberately not the invalid sample: hosts tell
+// the two apart.
 inline constexpr int unreadable_negative_sample = 100'000'000;
 
 inline constexpr int default_label_length = 100'000'000;  // samples
