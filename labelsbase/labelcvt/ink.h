@@ -58,7 +58,7 @@ class LABELSBASE_API ink_label : public prefix_label {
 
  private:
   // Asks samples_per_unit(), which a host's class may override; below 1 it counts as 1.
-  [[nodiscard]] int perfs_per_frame() const;
+  [[nodiscard]] LABELSBASE_LOCAL int perfs_per_frame() const;
 };
 
 class LABELSBASE_API ink_35_label : public labelsbase::concrete_label<ink_35_label_t, ink_label> {
