@@ -55,7 +55,7 @@ class LABELSBASE_API foot_label : public variable_label {
 
  protected:
   // Feet of the gauge of `type`, one of the types of feet.
-  LABELSBASE_LOCAL explicit foot_label(label_t type);
+  explicit foot_label(label_t type);
 
   struct parts {
     bool negative;
