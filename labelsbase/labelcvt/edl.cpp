@@ -11,11 +11,40 @@ using namespace labelsbase;
 namespace {
 
 // Returns the first type, in table order, whose `name` is `code`.
-label_t first_type_with(char const* exchange_names::*name, std::string_view code) noexcept {
+constexpr label_t first_type_with(char const* exchange_names::*name, std::string_view code) noexcept {
   for (auto const& facts : all_label_facts)
     if (facts.exchange.*name && code == facts.exchange.*name) return facts.type;
   return null_label_t;
 }
+
+// Returns the type that a whole code in capitals names, by the short codes first, or null_label_t.
+constexpr label_t type_named(std::string_view code) noexcept {
+  label_t const type = first_type_with(&exchange_names::read, code);
+  return type ? type : first_type_with(&exchange_names::read_long, code);
+}
+
+// Returns the first type with labels one of whose names means another type, or null_label_t.
+consteval label_t first_with_the_name_of_another() {
+  for (auto const& facts : all_label_facts) {
+    if (!facts.has_labels()) continue;
+    for (auto const* const code : {facts.exchange.read, facts.exchange.read_long})
+      if (code && type_named(code) != facts.type) return facts.type;
+    for (auto const& other : all_label_facts)
+      if (other.has_labels() && other.type != facts.type && facts.exchange.written && other.exchange.written &&
+          std::string_view{facts.exchange.written} == other.exchange.written)
+        return facts.type;
+  }
+  return null_label_t;
+}
+
+// The compiler names the type at fault as the argument of this template.
+template <label_t first_at_fault>
+struct every_exchange_name_means_one_type {
+  static_assert(first_at_fault == null_label_t, "another label type has an exchange name of this type");
+  static constexpr bool holds = true;
+};
+
+static_assert(every_exchange_name_means_one_type<first_with_the_name_of_another()>::holds);
 
 }  // namespace
 
@@ -32,8 +61,7 @@ label_t edlstr_to_label_type(char const* text) noexcept {
   for (; length < sizeof code && text[length] && !is_blank(text[length]); ++length)
     code[length] = to_upper(text[length]);
 
-  label_t const type = first_type_with(&exchange_names::read, {code, length});
-  return type ? type : first_type_with(&exchange_names::read_long, {code, length});
+  return type_named({code, length});
 }
 
 label_t edlstr_to_label_type(char const* text, UserLabelType family) noexcept {

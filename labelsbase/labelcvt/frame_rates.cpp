@@ -25,6 +25,13 @@ struct every_rate_has_its_timecode {
   static constexpr bool holds = true;
 };
 
+template <label_t first_at_fault>
+struct every_timecode_of_a_rate_has_its_standard {
+  static_assert(first_at_fault == null_label_t,
+                "this label type needs a standard rate in label_facts.h whose timecode is this type");
+  static constexpr bool holds = true;
+};
+
 constexpr bool has_row(Kiv::FrameRate rate) noexcept { return facts_of(rate).rate == rate; }
 
 // 12.5 frames a second are counted in 12.
@@ -37,8 +44,16 @@ consteval Kiv::FrameRate first_without_timecode() {
   return Kiv::FrameRate_unknown;
 }
 
+consteval label_t first_without_standard() {
+  for (auto const& row : all_rate_facts)
+    if (facts_of(facts_of(row.timecode_type).standard_rate).timecode_type != row.timecode_type)
+      return row.timecode_type;
+  return null_label_t;
+}
+
 static_assert(every_rate_has_its_row<first_enumerator_without<Kiv::FrameRate, 256>(has_row)>::holds);
 static_assert(every_rate_has_its_timecode<first_without_timecode()>::holds);
+static_assert(every_timecode_of_a_rate_has_its_standard<first_without_standard()>::holds);
 
 }  // namespace
 

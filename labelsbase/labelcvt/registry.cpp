@@ -13,6 +13,7 @@
 #include "labelsbase/labelcvt/label_facts.h"
 #include "labelsbase/labelcvt/timecode.h"
 #include "labelsbase/support/broken.h"
+#include "labelsbase/support/enumerators.h"
 #include "labelsbase/support/text.h"
 
 using namespace labelsbase;
@@ -72,13 +73,20 @@ using classes =
   return null_label_t;
 }
 
-// The compiler names the type at fault as the argument of this template.
+// The compiler names the type at fault as the argument of these templates.
+template <label_t behind_the_last>
+struct every_label_type_is_counted {
+  static_assert(!is_enumerator<behind_the_last>(), "numLabelCvts is one more than the last label type");
+  static constexpr bool holds = true;
+};
+
 template <label_t first_at_fault>
 struct every_type_with_labels_has_a_class {
   static_assert(first_at_fault == null_label_t, "this label type has labels, but its class is not in the list");
   static constexpr bool holds = true;
 };
 
+static_assert(every_label_type_is_counted<label_t{numLabelCvts}>::holds);
 static_assert(every_type_with_labels_has_a_class<first_without_class()>::holds);
 
 maker maker_of(label_t type) noexcept {

@@ -8,6 +8,7 @@
 #include "labelsbase/MediumRoll/medium.h"
 #include "labelsbase/labelcvt/label_facts.h"
 #include "labelsbase/labelcvt/label_types.h"
+#include "labelsbase/labelcvt/rate_facts.h"
 
 namespace labelsbase {
 
@@ -69,5 +70,22 @@ inline constexpr pitch_row pitch_rows[] = {
   auto const* const row = std::ranges::find(pitch_rows, type, &pitch_row::type);
   return row == std::end(pitch_rows) ? nullptr : row;
 }
+
+// Returns the first type that counts a rate with the 1000/1001 factor and has no row, or null_label_t.
+[[nodiscard]] consteval label_t first_without_pitch_row() {
+  for (auto const& facts : all_rate_facts)
+    if (facts.has_1001_factor && !pitch_row_of(facts.timecode_type)) return facts.timecode_type;
+  return null_label_t;
+}
+
+// The compiler names the type at fault as the argument of this template.
+template <label_t first_at_fault>
+struct every_slowed_timecode_has_its_speeds {
+  static_assert(first_at_fault == null_label_t,
+                "this label type counts a rate with the 1000/1001 factor, but lacks its row in pitch_rows.h");
+  static constexpr bool holds = true;
+};
+
+static_assert(every_slowed_timecode_has_its_speeds<first_without_pitch_row()>::holds);
 
 }  // namespace labelsbase
