@@ -63,7 +63,7 @@ TEST_F(Tool, WritesNoKeepStringFromInvalidArguments) {
           {"labels keep --write 25f --length -1", "", "--length \"-1\": expected a whole number from 0 to", 2},
           {"labels keep --write 25f --length 100000001", "", "from 0 to 100000000\n", 2},
           {"labels keep --write 25f --pitch 0", "", "--pitch \"0\"", 2},
-          {"labels keep --write 25f --roll 71", "", "--roll \"71\"", 2},
+          {"labels keep --write 25f --roll 999", "", "--roll \"999\"", 2},
           {"labels keep --write no", "", "--write \"no\"", 2},
           {"labels keep --start 01:00:00:00", "", "--start requires --write", 2}});
 }
@@ -79,7 +79,7 @@ TEST_F(Tool, ShowsHowFastALabelRuns) {
            "why                 film runs at 24 frames a second\n"},
           {"labels pitch F35 2 | tail -n 1", "why                 no medium changes the speed of this type\n"},
           {"labels pitch nope 2", "", "TYPE \"nope\": unknown label type", 2},
-          {"labels pitch 25f 71", "", "MEDIUM \"71\": unknown medium", 2}});
+          {"labels pitch 25f 999", "", "MEDIUM \"999\": unknown medium", 2}});
 }
 
 }  // namespace

@@ -165,13 +165,15 @@ TEST(EditLabel, IsKeptWithItsRoll) {
 }
 
 TEST(EditLabel, ReadsWhatItCanOfARoll) {
+  std::string const no_medium = "LABEL_REV:1 pal_label 01:00:00.00 250 0.5 1 MediumRollId " +
+                                std::to_string(labelsbase::medium_count) + ",1";
   // clang-format off
   struct { char const* text; int medium, generation; double pitch; } const cases[] = {
       {"LABEL_REV:1 pal_label 01:00:00.00 250 0.5 1", 1, 1, 0.5},  // the pitch that was kept, whatever the medium
       {"MediumRollId 15,2", 15, 2, 0.0}, {"", 1, 1, 0.0}, {nullptr, 1, 1, 0.0},
       {"LABEL_REV:1 pal_label 01:00:00.00 250 0.5 1 MediumRollId 3", 3, 2, 0.5},
       {"LABEL_REV:1 ink_35_label AB121234+05 2 4 1 MediumRollId 15", 10, 1, 1.0},
-      {"LABEL_REV:1 pal_label 01:00:00.00 250 0.5 1 MediumRollId 71,1", 0, 0, 0.5},
+      {no_medium.c_str(), 0, 0, 0.5},
       {"LABEL_REV:1 pal_label 01:00:00.00 250 0.5 1 MediumRollId", 0, 0, 0.5},
   };
   // clang-format on

@@ -73,7 +73,7 @@ TEST(Families, MatchThemselvesAndAny) {
 }
 
 TEST(HostRates, UnknownOrOfTheProject) {
-  for (int code : {INT_MIN, -1, 0, 11, 34, 48, INT_MAX}) {
+  for (int code : {INT_MIN, -1, 0, 11, 34, code_behind_the_last, INT_MAX}) {
     Kiv::FrameRate const rate{code};
     EXPECT_EQ(getDefaultTimecodeFrameRate(rate), 24) << code;
     EXPECT_EQ(TvStd_to_label_type({rate, false}), ntsc_label_t) << code;

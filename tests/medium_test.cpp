@@ -30,7 +30,7 @@ TEST(Medium, WithoutARateIsNotProgressiveAndHasNoLabelType) {
 TEST(MediumOfARate, SaysSoWhenThereIsNone) {
   auto const line = [](char const* rest) { return std::string{"assertion failed "} + rest + '\n'; };
   constexpr auto scan = Kiv::Image::ScanMode_progressive;
-  for (int code : {INT32_MIN, -1, 0, 11, 34, 48, INT32_MAX}) {
+  for (int code : {INT32_MIN, -1, 0, 11, 34, code_behind_the_last, INT32_MAX}) {
     SCOPED_TRACE(code);
     EXPECT_EQ(said_by([&] { EXPECT_EQ(getMediumRollfromInputDetails(scan, Kiv::FrameRate{code}), 0); }),
               line("0 at labelsbase/MediumRoll line 224"));

@@ -24,11 +24,14 @@
 #include "host/current_project.h"
 #include "labelsbase/MediumRoll.h"
 #include "labelsbase/framecounts.h"
+#include "labelsbase/labelcvt/rate_facts.h"
 #include "labelsbase/labels.h"
 #include "labelsbase/mposnxlate.h"
 #include "refhost/refhost.h"
 
 inline constexpr int invalid = labelsbase::invalid_sample;
+
+inline constexpr int code_behind_the_last = std::end(labelsbase::all_rate_facts)[-1].rate + 1;  // of the rates
 
 inline label_cvt& shared(label_t type) { return *get_static_label_cvt(type); }
 
