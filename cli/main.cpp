@@ -8,7 +8,7 @@
 #include "cli/console.h"
 #include "cli/settings.h"
 #include "cli/text.h"
-#include "cli/verbs/commands.h"
+#include "cli/commands.h"
 #include "labelsbase/version.h"
 
 namespace {

@@ -9,7 +9,7 @@
 #include <system_error>
 
 #include "cli/arguments.h"
-#include "cli/verbs/commands.h"
+#include "cli/commands.h"
 
 namespace cli {
 namespace {

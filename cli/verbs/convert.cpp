@@ -7,7 +7,7 @@
 #include "cli/input.h"
 #include "cli/label_io.h"
 #include "cli/text.h"
-#include "cli/verbs/commands.h"
+#include "cli/commands.h"
 
 namespace cli {
 namespace {

@@ -7,7 +7,7 @@
 #include "cli/counting.h"
 #include "cli/input.h"
 #include "cli/text.h"
-#include "cli/verbs/commands.h"
+#include "cli/commands.h"
 
 namespace cli {
 namespace {

@@ -13,7 +13,7 @@
 #include "cli/label_io.h"
 #include "cli/names.h"
 #include "cli/text.h"
-#include "cli/verbs/commands.h"
+#include "cli/commands.h"
 #include "host/tokeniser.h"
 #include "labelsbase/labelcvt/label_facts.h"
 #include "labelsbase/labels.h"

@@ -9,7 +9,7 @@
 #include "cli/arguments.h"
 #include "cli/film.h"
 #include "cli/names.h"
-#include "cli/verbs/commands.h"
+#include "cli/commands.h"
 #include "labelsbase/MediumRoll.h"
 #include "labelsbase/uiflabels.h"
 

@@ -8,7 +8,7 @@
 #include "cli/arguments.h"
 #include "cli/input.h"
 #include "cli/names.h"
-#include "cli/verbs/commands.h"
+#include "cli/commands.h"
 
 namespace cli {
 namespace {

@@ -1,4 +1,4 @@
-// The commands of the tool. Each is defined in a file of this folder.
+// The commands of the tool. Each is defined in a file of cli/verbs/.
 #pragma once
 
 #include <functional>
@@ -9,8 +9,8 @@ namespace CLI {
 class App;
 }
 
-// One row a command, in the order of the help. A row declares the function declare_NAME, which a file of this
-// folder defines as commands::declare_NAME; without the row, that definition does not compile.
+// One row a command, in the order of the help. A row declares the function declare_NAME, which a file of
+// cli/verbs/ defines as commands::declare_NAME; without the row, that definition does not compile.
 // clang-format off
 //           name     what it does
 #define LABELS_COMMANDS(row)                                                            \
