@@ -35,7 +35,12 @@ constexpr named_transfer transfers[] = {
     {"24:25", Transfer_24_to_25},
 };
 
-static_assert(std::ranges::all_of(transfers, labelsbase::find_transfer, &named_transfer::transfer));
+static_assert(std::ranges::all_of(transfers,
+                                  [](named_transfer const& named) {
+                                    return std::ranges::count(labelsbase::all_transfer_facts, named.transfer,
+                                                              &labelsbase::transfer_facts::transfer) == 1;
+                                  }),
+              "every transfer that the tool names has its row in transfers.h");
 
 std::string two_digits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
 

@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
+#include "cli/commands.h"
 #include "cli/console.h"
 #include "cli/settings.h"
 #include "cli/text.h"
-#include "cli/commands.h"
 #include "labelsbase/version.h"
 
 namespace {

@@ -5,11 +5,11 @@
 #include <memory>
 
 #include "cli/arguments.h"
+#include "cli/commands.h"
 #include "cli/film.h"
 #include "cli/input.h"
 #include "cli/label_io.h"
 #include "cli/text.h"
-#include "cli/commands.h"
 
 namespace cli {
 namespace {

@@ -4,10 +4,10 @@
 #include <memory>
 
 #include "cli/arguments.h"
+#include "cli/commands.h"
 #include "cli/input.h"
 #include "cli/label_io.h"
 #include "cli/text.h"
-#include "cli/commands.h"
 
 namespace cli {
 namespace {

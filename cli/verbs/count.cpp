@@ -4,10 +4,10 @@
 #include <vector>
 
 #include "cli/arguments.h"
+#include "cli/commands.h"
 #include "cli/counting.h"
 #include "cli/input.h"
 #include "cli/text.h"
-#include "cli/commands.h"
 
 namespace cli {
 namespace {

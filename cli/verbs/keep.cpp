@@ -9,11 +9,11 @@
 #include <vector>
 
 #include "cli/arguments.h"
+#include "cli/commands.h"
 #include "cli/input.h"
 #include "cli/label_io.h"
 #include "cli/names.h"
 #include "cli/text.h"
-#include "cli/commands.h"
 #include "host/tokeniser.h"
 #include "labelsbase/labelcvt/label_facts.h"
 #include "labelsbase/labels.h"

@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "cli/arguments.h"
+#include "cli/commands.h"
 #include "cli/film.h"
 #include "cli/names.h"
-#include "cli/commands.h"
 #include "labelsbase/MediumRoll.h"
 #include "labelsbase/uiflabels.h"
 

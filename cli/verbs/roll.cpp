@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "cli/arguments.h"
+#include "cli/commands.h"
 #include "cli/input.h"
 #include "cli/names.h"
-#include "cli/commands.h"
 
 namespace cli {
 namespace {

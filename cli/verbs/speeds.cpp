@@ -7,10 +7,10 @@
 #include <vector>
 
 #include "cli/arguments.h"
+#include "cli/commands.h"
 #include "cli/input.h"
 #include "cli/names.h"
 #include "cli/text.h"
-#include "cli/commands.h"
 #include "labelsbase/labels.h"
 #include "labelsbase/mposnxlate.h"
 #include "labelsbase/samples.h"
