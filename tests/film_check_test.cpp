@@ -20,22 +20,17 @@ TEST(FilmCheck, SaysWhatIsWrongWhereAndWhatIsNearest) {
       // clang-format off
       {keycode_35_label_t,   "KJ1234560123+16",      field::frames,      reason::range,         13, "KJ1234560123+15", "frames run from 00 to 15"},
       {ink_16_label_t,       "AB120123+20",          field::frames,      reason::range,         9,  "AB120123+19"},
-      {foot_16_label_t,      "0001+40",              field::frames,      reason::range,         5,  "0001+39"},
       {foot_353_label_t,     "-0002+22.2",           field::frames,      reason::range,         6,  "-0002+21.3"},
       {keycode_35_label_t,   "KJ1234560123+7",       field::frames,      reason::digit_count,   14, "KJ1234560123+07"},
       {keycode_35_label_t,   "KJ1234560123+007",     field::frames,      reason::digit_count,   15, "KJ1234560123+07", "frames must have 2 digits"},
-      {keycode_35_label_t,   "KJ1234560123",         field::frames,      reason::missing,       12, "KJ1234560123+00"},
       {keycode_35_label_t,   "KJ1234560123+",        field::frames,      reason::missing,       13, "KJ1234560123+00"},
       {keycode_35_label_t,   "KJ1234560123+07 ",     field::whole,       reason::trailing,      15, "KJ1234560123+07"},
       {keycode_353_label_t,  "KJ1234560123+07.3x",   field::whole,       reason::trailing,      17, "KJ1234560123+07.3", "nothing may follow the perforation"},
-      {keycode_35_label_t,   "KJ1234560123&07",      field::separator,   reason::separator,     12, "KJ1234560123+07"},
       {keycode_16_label_t,   "KJ1234560123+07",      field::separator,   reason::separator,     12, "KJ1234560123&07", "expected \"&\" before the frames"},
-      {keycode_35_label_t,   "KJ1234560123;07",      field::separator,   reason::separator,     12, "KJ1234560123+07"},
       {keycode_35_label_t,   "KJ123456012307",       field::separator,   reason::separator,     12, "KJ1234560123+07"},
       {keycode_353_label_t,  "KJ1234560123+07+3",    field::separator,   reason::separator,     15, "KJ1234560123+07.3", "expected \".\" before the perforation"},
       {keycode_353_label_t,  "KJ1234560123+07",      field::perforation, reason::missing,       15, "KJ1234560123+07.1", "the perforation is missing"},
       {keycode_353_label_t,  "KJ1234560123+07.4",    field::perforation, reason::range,         16, "KJ1234560123+07.3", "perforations run from 1 to 3"},
-      {keycode_353_label_t,  "KJ1234560123+07.0",    field::perforation, reason::range,         16, "KJ1234560123+07.1"},
       {keycode_353_label_t,  "KJ1234560123+21.1",    field::perforation, reason::perforation,   16, "KJ1234560123+21.3", "frame 21 has only perforation 3: the next key"},
       {foot_353_label_t,     "0000+00.3",            field::perforation, reason::perforation,   8,  "0000+00.1", "frame 00 of foot 0 has only perforation 1"},
       {foot_353_label_t,     "-0000+00.1",           field::sign,        reason::signed_zero,   0,  "0000+00.1", "zero has no sign"},
@@ -44,7 +39,6 @@ TEST(FilmCheck, SaysWhatIsWrongWhereAndWhatIsNearest) {
       {film_frames_label_t,  " 000024",              field::sign,        reason::sign_column,   0,  "000024", "no sign column"},
       {keycode_35_label_t,   "KJ12345612345+07",     field::count,       reason::length,        12, "KJ1234569999+07", "8 characters and the count 4 digits; this count has 5"},
       {keycode_35_label_t,   "KJ123456+07",          field::count,       reason::length,        8,  "KJ1234560000+07", "this label has no count"},
-      {keycode_35_label_6_t, "KJ12340123456+07",     field::count,       reason::length,        12, "KJ1234123456+07"},
       {keycode_35_label_t,   "KJ123456O123+07",      field::count,       reason::digit_count,   8,  "KJ1234560123+07", "the count must have 4 digits"},
       {keycode_35_label_t,   "0123+07",              field::prefix,      reason::length,        0,  "XX0000000123+07", "this label has no prefix"},
       {keycode_35_label_t,   "KJ10123+07",           field::prefix,      reason::length,        3,  "KJ1000000123+07"},
@@ -83,9 +77,7 @@ bool writes_it(LabelPoint& point, std::string const& text) {
   if (prefix.size() < length || std::ranges::any_of(prefix, [](char c) { return c < '!' || c > '~'; }))
     return false;
   std::strcpy(point.prefix, prefix.c_str());
-  point.sample = point.cvt()->get_abs_sample(text.c_str());
-  std::string const written = point.get_string();
-  return text == written || ' ' + text == written;
+  return is_written(point, text);
 }
 
 std::string some_label(LabelPoint& point, std::mt19937& random) {

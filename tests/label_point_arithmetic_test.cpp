@@ -13,9 +13,7 @@ TEST(PointArithmetic, WrapsByTheType) {
   struct { label_t type; int a, b, sum, difference; } const cases[] = {
       {pal_label_t, 2'159'999, 2, 1, 2'159'997}, {pal_label_t, 1, 2, 3, 2'159'999},
       {pal_label_t, 2'159'999, 1, 2'160'000, 2'159'998},  // a whole day stays
-      {keycode_35_label_t, 639'999, 1, 0, 639'998}, {keycode_353_label_t, 0, 1, 1, 659'999},
-      {foot_35_label_t, 4, 8, 12, -4},  // feet do not wrap
-      {film_frames_label_t, 5, 7, 12, -2},
+      {keycode_35_label_t, 639'999, 1, 0, 639'998}, {foot_35_label_t, 4, 8, 12, -4},  // feet do not wrap
   };
   // clang-format on
   for (auto const& c : cases) {
@@ -23,9 +21,7 @@ TEST(PointArithmetic, WrapsByTheType) {
     LabelPoint const sum = a + b;
     EXPECT_EQ(sum.sample, c.sum);
     EXPECT_EQ((a - b).sample, c.difference);
-    EXPECT_EQ((a - a).sample, 0);
     EXPECT_STREQ(sum.prefix, "");
-    EXPECT_EQ(sum.cvt(), a.cvt());
     EXPECT_STREQ(sum.label_template.text(), a.cvt()->get_template(true).text());
   }
   LabelPoint most{foot_35_label_t, 0};
@@ -34,11 +30,8 @@ TEST(PointArithmetic, WrapsByTheType) {
 }
 
 TEST(PointArithmetic, OfTwoTypesIsTheInvalidPoint) {
-  LabelPoint const timecode{pal_label_t, 5};
-  for (label_t type : {ntsc_label_t, keycode_35_label_t, null_label_t}) {
-    EXPECT_TRUE((timecode + LabelPoint{type, 5}) == invalid_label_point);
-    EXPECT_TRUE((timecode - LabelPoint{type, 5}) == invalid_label_point);
-  }
+  LabelPoint const pal{pal_label_t, 5}, ntsc{ntsc_label_t, 5};
+  EXPECT_TRUE(pal + ntsc == invalid_label_point && pal - ntsc == invalid_label_point);
 }
 
 TEST(CountLength, MovesDigitsBetweenPrefixAndCount) {
@@ -48,8 +41,6 @@ TEST(CountLength, MovesDigitsBetweenPrefixAndCount) {
       {keycode_35_label_4_t, 100, "KJ123412", keycode_35_label_5_t, 100 + 2 * 640'000},
       {keycode_35_label_5_t, 100, "KJ12341", keycode_35_label_6_t, 100 + 1 * 6'400'000},
       {keycode_16_label_t, 100, "KJ1234x2", keycode_16_label_6_t, 100},  // no number, nothing moves
-      {keycode_353_label_t, 7, "KJ123", keycode_353_label_6_t, 7},
-      {keycode_35_label_6_t, 7'680'100, "KJ1234", keycode_35_label_4_t, 100},
       {keycode_35_label_6_t, 7'680'100, "KJ1234", keycode_35_label_5_t, 1'280'100},
       {keycode_35_label_5_t, -640'001, "KJ1234", keycode_35_label_t, -1},
   };
@@ -61,7 +52,6 @@ TEST(CountLength, MovesDigitsBetweenPrefixAndCount) {
     EXPECT_EQ(point.sample, c.result) << c.prefix;
     EXPECT_EQ(point.cvt(), get_static_label_cvt(c.to));
     EXPECT_STREQ(point.prefix, c.prefix);
-    EXPECT_STREQ(point.label_template.text(), point.cvt()->get_template(true).text());
   }
 }
 
@@ -77,11 +67,9 @@ TEST(CountLength, ReadsNothingBehindTheEndOfThePrefix) {
 }
 
 TEST(CountLength, ChangesNothingOutsideItsFamily) {
-  std::pair<label_t, label_t> const cases[] = {{keycode_35_label_4_t, keycode_35_label_t},  // one length
-                                               {keycode_35_label_t, keycode_16_label_6_t},
-                                               {ink_35_label_t, keycode_35_label_6_t},
-                                               {keycode_35_label_t, label_t{INT_MAX}}};
-  for (auto const& [from, to] : cases) {
+  for (auto const& [from, to] : {std::pair{keycode_35_label_4_t, keycode_35_label_t},  // one length
+                                 {keycode_35_label_t, keycode_16_label_6_t},
+                                 {ink_35_label_t, keycode_35_label_6_t}}) {
     LabelPoint point = key(from, 100, "KJ123456");
     point.label_template.set("kept");
     LabelPoint const before = point;
@@ -94,10 +82,9 @@ TEST(CountLength, ChangesNothingOutsideItsFamily) {
 TEST(CountLength, IsSetByItsDigits) {
   // clang-format off
   struct { label_t from; int digits; label_t to; } const cases[] = {
-      {keycode_16_label_t, 5, keycode_16_label_5_t},     {keycode_16_label_t, 4, keycode_16_label_t},
-      {keycode_353_label_6_t, 4, keycode_353_label_4_t}, {keycode_35_label_t, 7, keycode_35_label_t},
-      {keycode_35_label_t, 3, keycode_35_label_t},       {keycode_35_label_t, INT_MIN, keycode_35_label_t},
-      {pal_label_t, 5, pal_label_t},                     {keycode_358_label_t, 6, keycode_358_label_t},
+      {keycode_16_label_t, 5, keycode_16_label_5_t}, {keycode_353_label_6_t, 4, keycode_353_label_4_t},
+      {keycode_35_label_t, 7, keycode_35_label_t},   {keycode_35_label_6_t, 3, keycode_35_label_6_t},
+      {pal_label_t, 5, pal_label_t},
   };
   // clang-format on
   for (auto const& c : cases) {

@@ -35,6 +35,13 @@ inline void expect_refused(std::span<refusal_case const> cases) {
   }
 }
 
+// Leaves the point at the sample that a text reads as, and returns true if that sample writes the text.
+inline bool is_written(LabelPoint& point, std::string const& text) {
+  point.sample = point.cvt()->get_abs_sample(text.c_str());
+  std::string const written = point.get_string();
+  return text == written || ' ' + text == written;
+}
+
 // Reads labels of a type and damaged ones. `is_label` says in another way whether a text is one, and
 // leaves the point at the sample that it reads as.
 inline void expect_only_written(label_t type, std::string_view alphabet, auto some_label, auto is_label) {

@@ -70,14 +70,9 @@ TEST(Split, WrapsAtMidnightOnce) {
 
 TEST(Normalise, KeepsAWholeDay) {
   auto& pal = *get_static_label_cvt(pal_label_t);
-  struct {
-    int sample, normal;
-  } const cases[] = {
-      {0, 0},          {2'160'000, 2'160'000}, {2'160'001, 1},          {4'320'000, 2'160'000},
-      {-1, 2'159'999}, {-2'160'000, 0},        {-2'160'001, 2'159'999}, {1, 1},
-  };
-  for (auto const& c : cases) EXPECT_EQ(pal.normalise_sample_unit(c.sample), c.normal) << c.sample;
-
+  for (auto const& [sample, normal] : std::map<int, int>{
+           {0, 0}, {-1, 2'159'999}, {-2'160'000, 0}, {2'160'000, 2'160'000}, {4'320'000, 2'160'000}})
+    EXPECT_EQ(pal.normalise_sample_unit(sample), normal) << sample;
   for (int t = 5; t < numLabelCvts; ++t) {
     auto& cvt = *get_static_label_cvt(label_t{t});
     if (cvt.UserType() != User_timecode) continue;
@@ -91,30 +86,22 @@ TEST(Normalise, KeepsAWholeDay) {
 }
 
 TEST(SlowTimecode, FollowsTheSettingAtConstruction) {
-  struct {
-    label_t type;
-    char const* key;
-    char const* setting;
-    int fps;
-    bool slow;
-    char const* text_of_7;
-  } const cases[] = {
-      {tc_60_label_t, "60p_timecode_type", "2", 30, true, " 00:00:00:03"},
-      {tc_60_label_t, "60p_timecode_type", "3", 30, false, " 00:00:00.07"},
-      {tc_60_label_t, "60p_timecode_type", "1", 60, false, " 00:00:00.07"},
-      {tc_60_label_t, "50p_timecode_type", "2", 60, false, " 00:00:00.07"},
-      {tc_60_duration_label_t, "60p_timecode_type", "2", 60, false, " 00:00:00.07"},
-      {tc_50_label_t, "50p_timecode_type", "2", 25, true, " 00:00:00:03"},
-      {tc_50_label_t, "50p_timecode_type", "-9", 50, false, " 00:00:00.07"},
-      {tc_50_duration_label_t, "50p_timecode_type", "2", 50, false, " 00:00:00.07"},
+  // clang-format off
+  struct { label_t type; char const *key, *setting; int fps; bool is_slow; } const cases[] = {
+      {tc_60_label_t, "60p_timecode_type", "2", 30, true},  {tc_60_label_t, "60p_timecode_type", "3", 30, false},
+      {tc_60_label_t, "60p_timecode_type", "1", 60, false}, {tc_60_label_t, "50p_timecode_type", "2", 60, false},
+      {tc_50_label_t, "50p_timecode_type", "2", 25, true},  {tc_50_label_t, "50p_timecode_type", "-9", 50, false},
+      {tc_60_duration_label_t, "60p_timecode_type", "2", 60, false},
+      {tc_50_duration_label_t, "50p_timecode_type", "2", 50, false},
   };
+  // clang-format on
   for (auto const& c : cases) {
     refhost::config_guard const setting{c.key, c.setting};
     std::unique_ptr<label_cvt> const cvt{make_any_label_cvt(c.type)};
     EXPECT_EQ(cvt->get_modulus(), c.fps) << c.key << c.setting;
-    EXPECT_EQ(cvt->isSpecialSlowTC(), c.slow);
+    EXPECT_EQ(cvt->isSpecialSlowTC(), c.is_slow);
     LabelPoint point{*cvt, 7};
-    EXPECT_STREQ(point.get_string(), c.text_of_7);
+    EXPECT_STREQ(point.get_string(), c.is_slow ? " 00:00:00:03" : " 00:00:00.07");
   }
 }
 
@@ -124,8 +111,7 @@ TEST(SlowTimecode, TwoFieldsMakeAFrame) {
   LabelPoint point{*cvt, 0};
   // clang-format off
   struct { int sample; char const* text; } const cases[] = {
-      {0, " 00:00:00.00"},  {1, " 00:00:00:00"},         {60, " 00:00:01.00"},        {-1, "-00:00:00:00"},
-      {-3, "-00:00:00:01"}, {5'183'999, " 23:59:59:29"}, {5'184'000, " 00:00:00.00"},
+      {1, " 00:00:00:00"}, {60, " 00:00:01.00"}, {-3, "-00:00:00:01"}, {5'184'000, " 00:00:00.00"},
   };
   // clang-format on
   for (auto const& c : cases) EXPECT_STREQ(cvt->get_abs_string(&point, c.sample), c.text) << c.sample;
@@ -134,15 +120,15 @@ TEST(SlowTimecode, TwoFieldsMakeAFrame) {
 
 TEST(Deprecated, EntryPointsAnswerAndSaySo) {
   auto& ntsc = *get_static_label_cvt(ntsc_label_t);
-  testing::internal::CaptureStdout();
-  EXPECT_EQ(ntsc.get_abs_sample(1.0), 29);
-  EXPECT_EQ(ntsc.get_abs_sample(1e99), -100'000'000);
-  EXPECT_EQ(ntsc.get_abs_sample(-1.0), -30);
-  EXPECT_EQ(get_static_label_cvt(tc_24_label_t)->get_V2tc(48), 48.0);
-  EXPECT_EQ(get_static_label_cvt(pal_label_t)->get_V2tc(-50), -2.0);
-  std::string const said = testing::internal::GetCapturedStdout();
-  EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 5);
-  EXPECT_EQ(said.find("assertion failed 0 at labelsbase/labelcvt line "), 0U) << said;
+  auto const said = said_by([&ntsc] {
+    EXPECT_EQ(ntsc.get_abs_sample(1.0), 29);
+    EXPECT_EQ(ntsc.get_abs_sample(1e99), -100'000'000);
+    EXPECT_EQ(ntsc.get_abs_sample(-1.0), -30);
+    EXPECT_EQ(shared(tc_24_label_t).get_V2tc(48), 48.0);
+    EXPECT_EQ(shared(pal_label_t).get_V2tc(-50), -2.0);
+  });
+  EXPECT_EQ(std::ranges::count(said, '\n'), 5);
+  EXPECT_TRUE(said.starts_with("assertion failed 0 at labelsbase/labelcvt line ")) << said;
 }
 
 }  // namespace
