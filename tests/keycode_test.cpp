@@ -114,10 +114,8 @@ TEST(Keycode, ReadsTextTolerantly) {
 
 TEST(Prefix, OfAPointComesBeforeTheOneRemembered) {
   std::unique_ptr<label_cvt> const cvt{make_any_label_cvt(keycode_35_label_t)};
-  LabelPoint bare{*cvt, 64};
+  LabelPoint bare{*cvt, 64}, marked{*cvt, 64};
   EXPECT_STREQ(cvt->get_prefix(&bare), "XX000000");
-
-  LabelPoint marked{*cvt, 64};
   cvt->set_prefix(&marked, "KJ1234560099+05");
   EXPECT_STREQ(marked.prefix, "KJ1234560099");  // prefix and count
   EXPECT_STREQ(bare.get_string(), "KJ1234560001+00");

@@ -17,7 +17,7 @@ TEST(LabelCheck, SaysWhatIsWrongWhereAndWhatIsNearest) {
   refusal_case const cases[] = {
       // clang-format off
       {pal_label_t,       "99:99:99:99",       field::hours,     reason::range,       0,  "23:59:59.24", "hours run from 00 to 23"},
-      {pal_label_t,       " 00:60:00.00",      field::minutes,   reason::range,       4,  "00:59:00.00", "minutes run from 00 to 59"},
+      {pal_label_t,       "-00:60:00.00",      field::minutes,   reason::range,       4,  "-00:59:00.00", "minutes run from 00 to 59"},
       {tc_240_label_t,    "00:00:00.240",      field::frames,    reason::range,       9,  "00:00:00.239", "frames run from 000 to 239"},
       {tc_120_label_t,    "00:00:00.00",       field::frames,    reason::digit_count, 11, "00:00:00.000", "frames must have 3 digits"},
       {pal_label_t,       "1:2:3:4",           field::hours,     reason::digit_count, 1,  "01:02:03.04"},

@@ -24,9 +24,7 @@ TEST(PointArithmetic, WrapsByTheType) {
     EXPECT_STREQ(sum.prefix, "");
     EXPECT_STREQ(sum.label_template.text(), a.cvt()->get_template(true).text());
   }
-  LabelPoint most{foot_35_label_t, 0};
-  most.sample = INT_MAX;
-  EXPECT_EQ((most + LabelPoint{foot_35_label_t, 1}).sample, INT_MIN);
+  EXPECT_EQ((LabelPoint{foot_35_label_t, INT_MAX} + LabelPoint{foot_35_label_t, 1}).sample, INT_MIN);
 }
 
 TEST(PointArithmetic, OfTwoTypesIsTheInvalidPoint) {

@@ -20,12 +20,17 @@ TEST(TimecodeText, IsWritten) {
 }
 
 TEST(TimecodeText, WithoutASignColumnCountsBackFromMidnight) {
-  LabelPoint point{pal_label_t, 0};
-  point.removePadding();
-  auto const said = said_by([&] { EXPECT_STREQ(point.cvt()->get_abs_string(&point, -1), "23:59:59.24"); });
-  EXPECT_TRUE(said.starts_with("assertion failed abs_sample >= 0 at labelsbase/labelcvt line ")) << said;
-  EXPECT_EQ(said.find('\n'), said.size() - 1);
-  EXPECT_STREQ(point.cvt()->get_abs_string(&point, 1), "00:00:00.01");
+  std::set<std::string> places;
+  for (auto const& [type, text] : std::map<label_t, char const*>{
+           {pal_label_t, "23:59:59.24"}, {tc_120_label_t, "23:59:59.119"}, {tc_240_label_t, "23:59:59.239"}}) {
+    LabelPoint point{type, 0};
+    point.removePadding();
+    auto const said = said_by([&] { EXPECT_STREQ(point.cvt()->get_abs_string(&point, -1), text); });
+    EXPECT_TRUE(said.starts_with("assertion failed abs_sample >= 0 at labelsbase/labelcvt line ")) << said;
+    EXPECT_EQ(said.find('\n'), said.size() - 1);
+    places.insert(said);
+  }
+  EXPECT_EQ(places.size(), 3U) << "each from a line of its own";
 }
 
 TEST(TimecodeText, FormatsLeaveFieldsOut) {
@@ -110,8 +115,7 @@ TEST(PackedBcd, IsReadWithoutDropFrameCorrection) {
 }
 
 // A converter of the host's own, whose day begins an hour late.
-class late_label : public pal_label {
- public:
+struct late_label : pal_label {
   using pal_label::pal_label;
   void sample_to_hmsf(int sample, bool& second_field) override {
     pal_label::sample_to_hmsf(sample, second_field);
