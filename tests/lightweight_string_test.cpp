@@ -64,7 +64,7 @@ TEST_F(LightweightStrings, AreEqualByText) {
   EXPECT_EQ(text{"A001"}, text("A001B", 4));
   EXPECT_FALSE(text{"A001"}.shares_buffer_with("A001"));
   EXPECT_NE(text{"A001"}, text{"A002"});
-  EXPECT_NE(text{"A001"}, text{"A00"});
+  EXPECT_NE(text{"A00"}, text{"A001"});
   EXPECT_NE(text("A\0B", 3), text("A\0C", 3));
 }
 
