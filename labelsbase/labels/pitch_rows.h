@@ -74,7 +74,8 @@ inline constexpr pitch_row pitch_rows[] = {
 // Returns the first type that counts a rate with the 1000/1001 factor and has no row, or null_label_t.
 [[nodiscard]] consteval label_t first_without_pitch_row() {
   for (auto const& facts : all_rate_facts)
-    if (facts.has_1001_factor && !pitch_row_of(facts.timecode_type)) return facts.timecode_type;
+    if (facts.has_1001_factor && std::ranges::count(pitch_rows, facts.timecode_type, &pitch_row::type) == 0)
+      return facts.timecode_type;
   return null_label_t;
 }
 
