@@ -1,17 +1,12 @@
+#include <tuple>
+
 #include "tests/testing.h"
 
 namespace {
 
-std::string user_word(int value) {
-  std::string const text = MediumRollId_to_UserString({MediumRollMedium{value}, Gen_any});
-  return text.substr(0, text.find(','));
-}
-
 TEST(Medium, WithoutARateIsNotProgressiveAndHasNoLabelType) {
-  std::map<int, std::string> const words{{2, "film"}, {3, "video"}, {4, "audio"},
-                                         {10, "ink"}, {11, "Lab"},  {13, "24p"}};
   for (int value :
-       {INT32_MIN, -1, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, labelsbase::medium_count, INT32_MAX}) {
+       {INT_MIN, -1, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, labelsbase::medium_count, INT_MAX}) {
     SCOPED_TRACE(value);
     auto const m = MediumRollMedium{value};
     EXPECT_EQ(getFrameRatefromMedium(m), 0);
@@ -20,7 +15,6 @@ TEST(Medium, WithoutARateIsNotProgressiveAndHasNoLabelType) {
     EXPECT_EQ(getSampleDurationFromMedium(m), Kiv::getFrameDuration(Kiv::FrameRate{0}) * 0.5);
     EXPECT_EQ(said_by([&] { EXPECT_EQ(getDefaultLabelTypeForMedium(m), null_label_t); }),
               "assertion failed false at labelsbase/MediumRoll line 696\n");
-    EXPECT_EQ(user_word(value), words.count(value) ? words.at(value) : "med?");
   }
   EXPECT_STREQ(labelsbase::medium_name(Medium_film24_out), "film24_out");
   EXPECT_STREQ(labelsbase::medium_name(MediumRollMedium{9}), "");
@@ -44,32 +38,28 @@ TEST(MediumOfARate, SaysSoWhenThereIsNone) {
 }
 
 TEST(MediumOfARate, IsFoundForAMeasuredOne) {
-  struct {
-    double from, to;
-    int medium;
-  } const intervals[] = {{23, 23.99, 29},   {23.99, 24.1, 28}, {24.9, 25.1, 32},  {29, 29.99, 35},
-                         {29.99, 30.1, 34}, {49.9, 50.1, 38},  {59.8, 59.99, 40}, {59.99, 60.1, 39}};
-  for (auto const& c : intervals) {
-    EXPECT_EQ(getMediumRollfromOutputFramerateDouble(std::nextafter(c.from, 100)), c.medium) << c.from;
-    EXPECT_EQ(getMediumRollfromOutputFramerateDouble(std::nextafter(c.to, 0)), c.medium) << c.to;
-    EXPECT_EQ(getMediumRollfromOutputFramerateDouble(c.from), 28) << c.from;
-    EXPECT_EQ(getMediumRollfromOutputFramerateDouble(c.to), 28) << c.to;
+  std::tuple<double, double, int> const intervals[] = {{23, 23.99, 29},   {23.99, 24.1, 28}, {24.9, 25.1, 32},
+                                                       {29, 29.99, 35},   {29.99, 30.1, 34}, {49.9, 50.1, 38},
+                                                       {59.8, 59.99, 40}, {59.99, 60.1, 39}};
+  for (auto const& [from, to, medium] : intervals) {
+    EXPECT_EQ(getMediumRollfromOutputFramerateDouble(std::nextafter(from, 100)), medium) << from;
+    EXPECT_EQ(getMediumRollfromOutputFramerateDouble(std::nextafter(to, 0)), medium) << to;
+    EXPECT_EQ(getMediumRollfromOutputFramerateDouble(from), 28) << from;
+    EXPECT_EQ(getMediumRollfromOutputFramerateDouble(to), 28) << to;
   }
   for (double fps : {0.0, -25.0, 24.5, 27.0, 48.0, 100.0, 1e99, HUGE_VAL, std::nan("")})
     EXPECT_EQ(getMediumRollfromOutputFramerateDouble(fps), 28) << fps;
 }
 
 TEST(MediumOfTheProject, IsForEditingAndForPlayout) {
-  struct {
-    int rate, edit, playout;
-  } const cases[] = {{1, 17, 30},  {2, 17, 30},  {3, 20, 33},  {4, 23, 37},  {5, 23, 37},
-                     {6, 17, 30},  {7, 17, 30},  {8, 25, 33},  {9, 26, 37},  {0, 17, 30},
-                     {10, 26, 37}, {11, 17, 30}, {44, 17, 30}, {-1, 17, 30}, {48, 17, 30}};
-  for (auto const& c : cases) {
-    refhost::project_guard const project{{.frame_rate = Kiv::FrameRate{c.rate}}};
-    EXPECT_EQ(getDefaultEditMediumForProject(Kiv::FrameRate{c.rate}), c.edit) << c.rate;
-    EXPECT_EQ(getDefaultEditMediumForProject(), c.edit) << c.rate;
-    EXPECT_EQ(getDefaultEditPlayoutMediumForProject(), c.playout) << c.rate;
+  std::tuple<int, int, int> const cases[] = {{1, 17, 30}, {3, 20, 33},  {4, 23, 37},  {5, 23, 37},
+                                             {8, 25, 33}, {9, 26, 37},  {10, 26, 37}, {0, 17, 30},
+                                             {6, 17, 30}, {11, 17, 30}, {48, 17, 30}, {-1, 17, 30}};
+  for (auto const& [code, edit, playout] : cases) {
+    refhost::project_guard const project{{.frame_rate = Kiv::FrameRate{code}}};
+    EXPECT_EQ(getDefaultEditMediumForProject(Kiv::FrameRate{code}), edit) << code;
+    EXPECT_EQ(getDefaultEditMediumForProject(), edit) << code;
+    EXPECT_EQ(getDefaultEditPlayoutMediumForProject(), playout) << code;
   }
 }
 
