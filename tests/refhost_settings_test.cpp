@@ -13,21 +13,14 @@ TEST(SettingsFile, SetsEveryKey) {
   refhost::project_guard const project{{}};
   refhost::config_guard const number{"50p_timecode_type", std::nullopt};
   refhost::config_guard const roll{"MediumRoll28,1", std::nullopt};
+  // clang-format off
   auto const errors = load(
-      "\xEF\xBB\xBF# an NTSC project\r\n"
-      "\r\n"
-      "project-rate=29.97\r\n"
-      "  drop-frame  =  Yes  \n"
-      "\tfilm-speed = 25\n"
-      "output-scan = lower-first\n"
-      "output-rate = 60000/1001\n"
-      "gearing-rate = 24\n"
-      "gearing-rate = code:99\n"
-      "gearing-pulldown = true\n"
-      "audio-sync-pulled-down = 1\n"
-      "output-pulled-down = no\n"
-      "config.50p_timecode_type = 2\n"
+      "\xEF\xBB\xBF# an NTSC project\r\n" "\r\n" "project-rate=29.97\r\n"
+      "  drop-frame  =  Yes  \n" "\tfilm-speed = 25\n" "output-scan = lower-first\n"
+      "output-rate = 60000/1001\n" "gearing-rate = 24\n" "gearing-rate = code:99\n" "gearing-pulldown = true\n"
+      "audio-sync-pulled-down = 1\n" "output-pulled-down = no\n" "config.50p_timecode_type = 2\n"
       "config.MediumRoll28,1 = REV: 1 MediumRollId: 28,1 reelid: A=1#2");
+  // clang-format on
   ASSERT_TRUE(errors.empty()) << errors.front().message;
   EXPECT_EQ(refhost::project(),
             (refhost::project_settings{Kiv::FrameRate_29_97, true, Kiv::FrameRate_25,
@@ -40,19 +33,10 @@ TEST(SettingsFile, SetsEveryKey) {
 TEST(SettingsFile, ReportsEveryWrongLineAndChangesNothing) {
   refhost::project_guard const project{{}};
   auto const before = refhost::project();
-  auto const errors = load(
-      "project-rate = 25\n"
-      "drop-frame = maybe\n"
-      "# no = comment\n"
-      "speed\n"
-      "frame-rate = 25\n"
-      "config.new_key = 1\n"
-      "config. = 1\n"
-      "config.long = " +
-      std::string(1024, 'x') +
-      "\n"
-      "film-speed =");
   // clang-format off
+  auto const errors = load(
+      "project-rate = 25\n" "drop-frame = maybe\n" "# no = comment\n" "speed\n" "frame-rate = 25\n"
+      "config.new_key = 1\n" "config. = 1\n" "config.long = " + std::string(1024, 'x') + "\n" "film-speed =");
   struct { int line; char const *value, *expected; } const cases[] = {
       {2, "drop-frame: 'maybe'", "expected yes, no, true, false, 1 or 0"},
       {4, "'speed' has no '='", "expected key = value"},
@@ -64,10 +48,10 @@ TEST(SettingsFile, ReportsEveryWrongLineAndChangesNothing) {
   // clang-format on
   ASSERT_EQ(errors.size(), std::size(cases));
   for (std::size_t i = 0; i < errors.size(); ++i) {
-    EXPECT_EQ(errors[i].line, cases[i].line);
-    EXPECT_EQ(errors[i].message.find(cases[i].value), 0U) << errors[i].message;
-    EXPECT_NE(errors[i].message.find(cases[i].expected), std::string::npos) << errors[i].message;
-    EXPECT_LT(errors[i].message.size(), 300U) << "a long value is cut";
+    auto const& [line, message] = errors[i];
+    EXPECT_EQ(line, cases[i].line);
+    EXPECT_TRUE(message.starts_with(cases[i].value) && message.find(cases[i].expected) != message.npos) << message;
+    EXPECT_LT(message.size(), 300U) << "a long value is cut";
   }
   EXPECT_EQ(refhost::project(), before);
   EXPECT_EQ(refhost::config_text("new_key"), std::nullopt);
@@ -81,29 +65,18 @@ TEST(SettingsFile, ReportsAnUnreadableStream) {
 
 TEST(SetOption, ReadsRatesAsPeopleWriteThem) {
   constexpr int refused = -1;
-  std::pair<char const*, int> const cases[] = {{"24", 1},
-                                               {"24.0", 1},
-                                               {"24.000", 1},
-                                               {"23.98", 2},
-                                               {"25.00", 3},
-                                               {"29.970", 5},
-                                               {"29.970029970029973", 5},
-                                               {"47.95", 7},
-                                               {"120.", 44},
-                                               {"25/2", 37},
-                                               {"48000/2002", 2},
-                                               {"24/1", 1},
-                                               {"code:5", 5},
-                                               {"CODE:-7", -7},
-                                               {"code:0", 0}};
+  // clang-format off
+  std::pair<char const*, int> const cases[] = {
+      {"24.000", 1}, {"23.98", 2}, {"29.970", 5}, {"29.970029970029973", 5}, {"47.95", 7}, {"120.", 44},
+      {"25/2", 37}, {"48000/2002", 2}, {"code:5", 5}, {"CODE:-7", -7}, {"code:0", 0}};
+  // clang-format on
   for (auto const& [text, code] : cases) {
     refhost::project_guard const project{{.frame_rate = Kiv::FrameRate{refused}}};
     EXPECT_EQ(refhost::set_option("project-rate", text), std::nullopt) << text;
     EXPECT_EQ(refhost::project().frame_rate, code) << text;
   }
-  for (char const* text : {"",        "23",  "13",  "24.003", "23.9", "0",   "-24",    "nan",   "2.4e1",
-                           "24fps",   ".",   "24 ", "0/0",    "24/0", "24/", "-24/-1", "code:", "code:99999999999",
-                           "project", "1..5"}) {
+  for (char const* text : {"", "23", "24.003", "119.9", "0", "-24", "nan", "2.4e1", "24fps", ".", "24 ", "0/0",
+                           "24/0", "24/", "-24/-1", "code:", "code:99999999999", "project", "24..5"}) {
     refhost::project_guard const project{{.frame_rate = Kiv::FrameRate{refused}}};
     EXPECT_NE(refhost::set_option("project-rate", text), std::nullopt) << text;
     EXPECT_EQ(refhost::project().frame_rate, refused) << text;
@@ -135,9 +108,8 @@ TEST(SetOption, ReadsScanModesAndTheProjectsRate) {
 TEST(SetOption, RefusesTextWithItsKeyForEverySettingListed) {
   refhost::project_guard const project{{}};
   for (auto const& known : refhost::setting_list()) {
-    auto const error = refhost::set_option(known.key, "?");
-    ASSERT_TRUE(error) << known.key;
-    EXPECT_EQ(*error, std::string{known.key} + ": '?' is wrong; expected " + known.expected);
+    EXPECT_EQ(refhost::set_option(known.key, "?"),
+              std::string{known.key} + ": '?' is wrong; expected " + known.expected);
   }
 }
 

@@ -21,43 +21,18 @@ TEST(FrameRates, OfUnknownCodesAre24) {
   EXPECT_EQ(Kiv::getFramesPerSecond(Kiv::FrameRate_239_76), 239.76023976023976);
 }
 
-TEST(Project, GuardSetsAndRestores) {
+TEST(Project, OutputAndGearingFollowItUnlessSet) {
   auto const before = refhost::project();
   {
-    refhost::project_settings settings{Kiv::FrameRate_29_97,
-                                       true,
-                                       Kiv::FrameRate_25,
-                                       Kiv::Image::ScanMode_interlaced_upper_first,
-                                       Kiv::FrameRate_59_94,
-                                       Kiv::FrameRate_30,
-                                       true,
-                                       true,
-                                       true};
-    refhost::project_guard const guard{settings};
-    EXPECT_EQ(Kiv::CurrentProject::getFrameRate(3), Kiv::FrameRate_29_97);
+    refhost::project_guard const guard{
+        {.frame_rate = Kiv::FrameRate_25, .drop_frame = true, .gearing_pulldown = true}};
     EXPECT_TRUE(Kiv::CurrentProject::getUseDropFrameTimecode());
-    EXPECT_EQ(Kiv::CurrentProject::getCelResolution(), 1001 / 30000.0);
-    EXPECT_EQ(Kiv::CurrentProject::getInCameraFilmSpeed(), Kiv::FrameRate_25);
-    EXPECT_EQ(Kiv::CurrentProject::getOutputImageFormat().getScanMode(),
-              Kiv::Image::ScanMode_interlaced_upper_first);
-    EXPECT_EQ(Kiv::CurrentProject::getOutputImageFormat().getFrameRate(), Kiv::FrameRate_59_94);
-    EXPECT_EQ(Kiv::CurrentProject::getOutputImageKIVFrameRate(), Kiv::FrameRate_59_94);
-    EXPECT_TRUE(Kiv::CurrentProject::vidprojAudSyncIsPulledDown());
-    EXPECT_TRUE(Kiv::CurrentProject::outputFormatIsPulledDown());
-    EXPECT_EQ(Kiv::OutputGearing{1}.getFrameRate(), Kiv::FrameRate_30);
-    EXPECT_TRUE(Kiv::OutputGearing{1}.getUsePulldown());
-    EXPECT_FALSE(Kiv::OutputGearing{2}.getUsePulldown());
+    EXPECT_EQ(Kiv::CurrentProject::getOutputImageKIVFrameRate(), Kiv::FrameRate_25);
+    EXPECT_EQ(Kiv::OutputGearing{1}.getFrameRate(), Kiv::FrameRate_25);
+    EXPECT_TRUE(Kiv::OutputGearing{1}.getUsePulldown() && !Kiv::OutputGearing{2}.getUsePulldown());
   }
   EXPECT_EQ(refhost::project(), before);
-}
-
-TEST(Project, OutputAndGearingFollowTheProjectUnlessSet) {
-  refhost::project_guard const guard{{.frame_rate = Kiv::FrameRate_25}};
-  EXPECT_EQ(Kiv::CurrentProject::getOutputImageKIVFrameRate(), Kiv::FrameRate_25);
-  EXPECT_EQ(Kiv::OutputGearing{1}.getFrameRate(), Kiv::FrameRate_25);
-  EXPECT_FALSE(Kiv::OutputGearing{1}.getUsePulldown());
-  EXPECT_FALSE(Kiv::CurrentProject::outputFormatIsPulledDown() ||
-               Kiv::CurrentProject::vidprojAudSyncIsPulledDown());
+  EXPECT_FALSE(before.gearing_pulldown || before.output_pulled_down || before.audio_sync_pulled_down);
 }
 
 TEST(Configuration, ReadsStrictWholeNumbers) {
@@ -65,13 +40,11 @@ TEST(Configuration, ReadsStrictWholeNumbers) {
     refhost::config_guard const guard{"number", std::to_string(number)};
     EXPECT_EQ(config_int("number", 99), number);
   }
-  for (char const* text :
-       {"", " 2", "2 ", "2147483648", "99999999999999999999", "+2", "-", "0x10", "2.0", "two"}) {
+  for (char const* text : {"", " 2", "2 ", "2147483648", "+2", "-", "0x10", "two"}) {
     refhost::config_guard const guard{"number", text};
     EXPECT_EQ(config_int("number", 99), 99) << '"' << text << '"';
   }
-  EXPECT_EQ(config_int("number", 99), 99) << "no such key";
-  EXPECT_EQ(config_int(nullptr, 99), 99);
+  for (char const* key : {"number", static_cast<char const*>(nullptr)}) EXPECT_EQ(config_int(key, 99), 99);
 }
 
 TEST(Configuration, GuardRestoresTextsAndAbsence) {
@@ -88,7 +61,7 @@ TEST(Configuration, GuardRestoresTextsAndAbsence) {
 }
 
 TEST(Configuration, CopiesTextsIntoTheBuffer) {
-  for (std::size_t length : {0U, 1U, 1022U, 1023U, 1024U, 5000U}) {
+  for (std::size_t length : {0U, 1022U, 1023U, 1024U, 5000U}) {
     refhost::config_guard const guard{"text", std::string(length, 'x')};
     std::array<char, configb::text_size + 1> buffer{};
     buffer.fill('#');
@@ -101,35 +74,22 @@ TEST(Configuration, CopiesTextsIntoTheBuffer) {
   EXPECT_STREQ(untouched, "as it was");
 }
 
-std::vector<std::string> tokens(char const* text, char const* separators) {
-  tokeniser splitter{text, separators};
-  std::vector<std::string> result;
-  while (char const* token = splitter.next()) result.emplace_back(token);
-  EXPECT_EQ(splitter.next(), nullptr) << "stays at the end";
-  return result;
-}
-
 TEST(Tokeniser, SplitsAtRunsOfSeparators) {
   // clang-format off
-  struct { char const* text; char const* separators; std::vector<std::string> tokens; } const cases[] = {
-      {"  a   b ", " ", {"a", "b"}}, {"::a: :b", ": ", {"a", "b"}}, {"a b", "", {"a b"}},
-      {" : ", ": ", {}},             {"", " ", {}},
-      {"REV: 1 MediumRollId: 28,1", ": ", {"REV", "1", "MediumRollId", "28,1"}},
-      {"\xE9t\xE9\xFF\x80 \x81", " \x80", {"\xE9t\xE9\xFF", "\x81"}},
+  struct { char const *text, *separators; std::vector<std::string> tokens; } const cases[] = {
+      {"  a   b ", " ", {"a", "b"}}, {"::a: :b", ": ", {"a", "b"}}, {"a b", "", {"a b"}}, {" : ", ": ", {}},
+      {"", " ", {}},                 {"\xE9t\xE9\xFF\x80 \x81", " \x80", {"\xE9t\xE9\xFF", "\x81"}},
   };
   // clang-format on
   auto const before = refhost::allocator_statistics();
-  for (auto const& c : cases) EXPECT_EQ(tokens(c.text, c.separators), c.tokens) << c.text;
+  for (auto const& c : cases) {
+    std::string text = c.text;
+    tokeniser splitter{text.c_str(), c.separators};
+    text.assign(text.size(), '!');  // the tokeniser has a copy
+    for (auto const& token : c.tokens) EXPECT_EQ(splitter.next(), token) << c.text;
+    for (int i = 0; i < 2; ++i) EXPECT_EQ(splitter.next(), nullptr) << "stays at the end";
+  }
   EXPECT_EQ(refhost::allocator_statistics().live_blocks, before.live_blocks);
-}
-
-TEST(Tokeniser, KeepsItsOwnCopy) {
-  char text[] = "one two";
-  tokeniser splitter{text, " "};
-  std::memset(text, 'x', sizeof text - 1);
-  char const* first = splitter.next();
-  EXPECT_STREQ(splitter.next(), "two");
-  EXPECT_STREQ(first, "one");
 }
 
 TEST(Allocator, CountsBlocks) {
