@@ -1,7 +1,6 @@
 #include "cli/label_io.h"
 
 #include <algorithm>
-#include <cstring>
 #include <limits>
 
 #include "cli/arguments.h"
@@ -131,9 +130,7 @@ problem label_writer::missing_label(int sample) const {
 }
 
 void set_prefix(LabelPoint& point, std::string_view prefix) noexcept {
-  auto const size = std::min(prefix.size(), LabelPoint::prefix_length);
-  std::memcpy(point.prefix, prefix.data(), size);
-  point.prefix[size] = '\0';
+  point.prefix[prefix.copy(point.prefix, LabelPoint::prefix_length)] = '\0';
 }
 
 }  // namespace cli
