@@ -7,6 +7,7 @@
 #include <functional>
 #include <iterator>
 
+#include "labelsbase/counts/timecode_count.h"
 #include "labelsbase/framecounts/count_types.h"
 #include "labelsbase/support/enumerators.h"
 
@@ -19,6 +20,8 @@ struct count_label_row {
   text_form form;
   int frames_per_second;  // of timecode
   int units_per_frame;    // of a key number: 4 if it counts perforations after the key, 1 if it counts frames
+
+  timecode_count count{frames_per_second};  // set up here, not in every conversion
 };
 
 // clang-format off

@@ -14,9 +14,10 @@ using namespace labelsbase;
 namespace {
 
 constexpr timecode_count film_count{24};
+constexpr timecode_count drop_frame_count{30, true};
 
-constexpr timecode_count count_of(count_label_row const& row, int drop) noexcept {
-  return timecode_count{row.frames_per_second, drop != 0 && row.frames_per_second == 30};
+constexpr timecode_count const& count_of(count_label_row const& row, int drop) noexcept {
+  return drop != 0 && row.frames_per_second == 30 ? drop_frame_count : row.count;
 }
 
 // Returns the frame of a timecode text, from 1. Any text can be read; fields that are missing are 0.
