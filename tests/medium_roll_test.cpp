@@ -37,13 +37,16 @@ TEST(Identifier, FitsByMediumAndGeneration) {
 
 // As a scan of "%2d,%1d" reads it.
 TEST(Identifier, IsRead) {
+  auto const last = std::to_string(labelsbase::medium_count - 1);
+  auto const behind_the_last = std::to_string(labelsbase::medium_count);
   // clang-format off
   std::tuple<char const*, UserLabelType, ident> const cases[] = {
       {"28,1", User_none, {28, 1}},  {" +7,5", User_none, {7, 5}},    {"47, 2", User_ink, {47, 2}},
       {"3", User_none, {3, 2}},      {"4,0", User_none, {4, 3}},      {"1,x", User_keycode, {1, 1}},
       {"4", User_ink, {10, 3}},      {"2,-1", User_ink, {10, 1}},     {"28,12", User_none, {28, 1}},
       {"047,2", User_none, {4, 3}},  {"1 ,2", User_none, {1, 1}},     {"28,6", User_none, {0, 0}},
-      {"71", User_none, {0, 0}},     {"70", User_none, {70, 1}},      {"0,1", User_none, {0, 0}},
+      {last.c_str(), User_none, {labelsbase::medium_count - 1, 1}},   {"0,1", User_none, {0, 0}},
+      {behind_the_last.c_str(), User_none, {0, 0}},
       {"99", User_ink, {0, 0}},      {"", User_ink, {0, 0}},          {"-1,1", User_none, {0, 0}},
       {nullptr, User_ink, {0, 0}},   {",1", User_none, {0, 0}},       {"28,-5", User_none, {28, 1}},
   };
