@@ -4,11 +4,16 @@
 // strict reader accepts only labels that their type writes. It refuses any other text with the reason, the place
 // and the nearest label.
 //
-//   read(pal_label_t, "01:00:00:00")             // reading: sample 90000
-//   read(keycode_35_label_t, "KJ1234560123+07")  // reading: sample 7900, prefix "KJ123456"
-//   read(pal_label_t, "01:00:61:00")             // refusal: field::seconds, reason::range, position 6,
-//                                                //   nearest "01:00:59.00"
-//   explain(std::get<refusal>(read(pal_label_t, "01:00:61:00")))   // "seconds run from 00 to 59"
+//   auto const label = labelcheck::read(keycode_35_label_t, "KJ1234560123+07");
+//   std::get<labelcheck::reading>(label).sample        // 7900
+//   std::get<labelcheck::reading>(label).prefix        // "KJ123456"
+//
+//   auto const refused = std::get<labelcheck::refusal>(labelcheck::read(pal_label_t, "01:00:61:00"));
+//   refused.wrong == labelcheck::field::seconds        // true
+//   refused.why == labelcheck::reason::range           // true
+//   refused.position                                   // 6
+//   refused.nearest                                    // "01:00:59.00"
+//   labelcheck::explain(refused)                       // "seconds run from 00 to 59"
 #pragma once
 
 #include <cstddef>
