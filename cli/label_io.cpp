@@ -16,7 +16,7 @@ namespace {
 // Positions and suggestions refer to what the user typed, without the first `untyped` characters. Columns count
 // from 1.
 std::string worded(labelcheck::refusal const& refused, std::string_view untyped = "") {
-  auto const why = explain(refused);
+  auto why = explain(refused);
   if (refused.nearest.empty()) return why;
   auto const column = refused.position - std::min(refused.position, untyped.size()) + 1;
   auto nearest = refused.nearest;

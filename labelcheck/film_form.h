@@ -38,7 +38,7 @@ class film_form {
   }
   [[nodiscard]] constexpr int digits() const noexcept { return facts_.film.count_digits; }
   [[nodiscard]] constexpr std::size_t head_length() const noexcept {
-    return static_cast<std::size_t>(facts_.film.prefix_length + digits());
+    return prefix_length() + static_cast<std::size_t>(digits());
   }
 
   // Returns the largest key, ink number, feet or film frames. Feet run ten times as far as their digits, and one

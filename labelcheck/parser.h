@@ -102,7 +102,7 @@ class parser {
   char const* begin_;
   char const* next_;
   char const* end_;
-  fault found_;
+  fault found_{field::whole, reason::unrecognised, 0};
 };
 
 }  // namespace labelcheck

@@ -20,8 +20,16 @@ struct count_label_row {
   text_form form;
   int frames_per_second;  // of timecode
   int units_per_frame;    // of a key number: 4 if it counts perforations after the key, 1 if it counts frames
+  timecode_count count;   // of timecode, set up here and not in every conversion
 
-  timecode_count count{frames_per_second};  // set up here, not in every conversion
+  constexpr count_label_row() noexcept : count_label_row{label_type{}, text_form::unknown, 0, 0} {}
+  constexpr count_label_row(label_type label_, text_form form_, int frames_per_second_,
+                            int units_per_frame_) noexcept
+      : label{label_},
+        form{form_},
+        frames_per_second{frames_per_second_},
+        units_per_frame{units_per_frame_},
+        count{frames_per_second_} {}
 };
 
 // clang-format off

@@ -18,7 +18,7 @@ foot_label::foot_label(int frames_per_foot, int perfs_per_frame, int feet_digits
 foot_label::foot_label(label_t type)
     : foot_label{facts_of(type).film.gauge.frames_per_count(), facts_of(type).film.gauge.perfs_per_frame(),
                  facts_of(type).film.count_digits} {
-  gauge_ = facts_of(type).film.gauge;
+  gauge_ = facts_of(type).film.gauge;  // NOLINT(cppcoreguidelines-prefer-member-initializer): it delegates
 }
 
 char const* foot_label::type_str() const { return label_type_name(foot_label_t); }
