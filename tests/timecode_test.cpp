@@ -68,6 +68,15 @@ TEST(Split, WrapsAtMidnightOnce) {
   }
 }
 
+TEST(DropFrame, StaysDropFrameAfterInit) {
+  std::unique_ptr<label_cvt> const cvt{make_any_label_cvt(ntsc_drop_label_t)};
+  cvt->as_timecode()->init();
+  LabelPoint point{*cvt, 0};
+  EXPECT_STREQ(cvt->get_abs_string(&point, 1800), " 00:01:00.02");
+  EXPECT_EQ(cvt->get_abs_sample("00:10:00.00"), 17'982);
+  EXPECT_EQ(cvt->normalise_sample_unit(-1), 2'591'999) << "init sets the day of the plain count";
+}
+
 TEST(Normalise, KeepsAWholeDay) {
   auto& pal = *get_static_label_cvt(pal_label_t);
   for (auto const& [sample, normal] : std::map<int, int>{

@@ -48,16 +48,6 @@ class film_gauge {
         has_whole_frames_{perfs_per_count_ % per_frame_.divisor() == 0},
         per_count_{has_whole_frames_ ? frames_per_count_ : perfs_per_count_} {}
 
-  // Returns a gauge by the frames of a key, where keys hold whole frames.
-  [[nodiscard]] static constexpr film_gauge of_frames(int perfs_per_frame, int frames_per_count) noexcept {
-    film_gauge gauge;
-    gauge.per_frame_ = reciprocal{perfs_per_frame};
-    gauge.per_count_ = reciprocal{frames_per_count};
-    gauge.frames_per_count_ = gauge.per_count_.divisor();
-    gauge.perfs_per_count_ = wrap_mul(gauge.frames_per_count_, gauge.perfs_per_frame());
-    return gauge;
-  }
-
   [[nodiscard]] constexpr int perfs_per_frame() const noexcept { return per_frame_.divisor(); }
 
   // Returns the perforations from one key (foot, ink number) to the next.

@@ -7,19 +7,22 @@
 
 using namespace labelsbase;
 
+namespace {
+
+constexpr film_gauge three_perf = facts_of(foot_353_label_t).film.gauge;
+
+}  // namespace
+
 foot_label::foot_label(int frames_per_foot, int perfs_per_frame, int feet_digits)
     : variable_label{std::max(frames_per_foot, 1), perfs_per_frame},
       feet_digits_{feet_digits},
-      perfs_per_frame_{std::max(perfs_per_frame, 1)},
-      gauge_{film_gauge::of_frames(perfs_per_frame, frames_per_foot)} {
+      perfs_per_frame_{std::max(perfs_per_frame, 1)} {
   foot_label::build_template();
 }
 
 foot_label::foot_label(label_t type)
     : foot_label{facts_of(type).film.gauge.frames_per_count(), facts_of(type).film.gauge.perfs_per_frame(),
-                 facts_of(type).film.count_digits} {
-  gauge_ = facts_of(type).film.gauge;  // NOLINT(cppcoreguidelines-prefer-member-initializer): it delegates
-}
+                 facts_of(type).film.count_digits} {}
 
 char const* foot_label::type_str() const { return label_type_name(foot_label_t); }
 label_t foot_label::type() const { return foot_label_t; }
@@ -48,12 +51,15 @@ int foot_label::get_abs_sample(char const* text) { return feet_to_samples(text);
 
 char const* foot_label::samples_to_feet(LabelPoint* point, int perfs) {
   if (!point) return "";
-  auto at = gauge_.split(wrap_magnitude(perfs));
-  if (int const limit = feet_limit(); at.count >= limit) at.count -= limit;
+  // By the fields, which hosts' classes may set.
+  int const frames = wrap_magnitude(perfs) / std::max(perfs_per_frame_, 1);
+  int const frames_per_foot = std::max(modulus_, 1);
+  int feet = frames / frames_per_foot;
+  if (int const limit = feet_limit(); feet >= limit) feet -= limit;
 
   text_writer out{point->text};
   if (*point->label_template.text() == '-') out.put(perfs < 0 ? '-' : ' ');
-  out.number(at.count, feet_digits_).put('+').number(at.frame, 2);
+  out.number(feet, feet_digits_).put('+').number(frames % frames_per_foot, 2);
   return point->text;
 }
 
@@ -78,7 +84,7 @@ int foot_label::feet_to_samples(char const* text) {
 
 char const* foot_353_label::samples_to_feet(LabelPoint* point, int perfs) {
   if (!point) return "";
-  auto const at = gauge_.split(wrap_magnitude(perfs));
+  auto const at = three_perf.split(wrap_magnitude(perfs));
   int const limit = feet_limit();
   feet_ = at.count > limit ? at.count - limit : at.count;  // deliberate: only feet above the limit
   frame_ = at.frame;
@@ -100,7 +106,7 @@ int foot_353_label::feet_to_samples(char const* text) {
   char const last = out.length() > 0 ? label[out.length() - 1] : '\0';
   remainder_ = is_digit(last) ? last - '1' : 0;
   auto const [negative, feet, frames] = read_parts(label);
-  int const perfs = gauge_.join({feet, frames, remainder_});
+  int const perfs = three_perf.join({feet, frames, remainder_});
   return negative ? wrap_negate(perfs) : perfs;
 }
 

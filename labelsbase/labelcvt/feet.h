@@ -77,8 +77,6 @@ class LABELSBASE_API foot_label : public variable_label {
   labelsbase::scratch_register feet_;
   labelsbase::scratch_register frame_;
   labelsbase::scratch_register remainder_;
-
-  labelsbase::film_gauge gauge_;
 };
 
 class LABELSBASE_API foot_35_label : public labelsbase::concrete_label<foot_35_label_t, foot_label> {

@@ -22,7 +22,7 @@ bool UserType_matches(UserLabelType a, UserLabelType b) noexcept {
   return a == b;
 }
 
-// Asks the host for every type but the two that it has no say in.
+// Asks the host for every type except 50 and 60 frame timecode.
 label_t label_t_to_duration_label_t(label_t type) {
   if (type == tc_50_label_t) return tc_50_duration_label_t;
   if (type == tc_60_label_t) return tc_60_duration_label_t;

@@ -150,8 +150,8 @@ timecode_label::timecode_label(label_t rate_type, int format)
 void timecode_label::init() {
   modulus_ = std::max(modulus_, 1);
   separator_ = '.';
-  count_ = timecode_count{modulus_};
-  samples_per_day_ = count_.labels_per_day();
+  count_ = timecode_count{modulus_, count_.is_drop_frame()};
+  samples_per_day_ = wrap_mul(modulus_, 86'400);
 }
 
 void timecode_label::use_setting(timecode_facts const& facts) {
@@ -195,10 +195,15 @@ void timecode_label::sample_to_hmsf(int sample, bool& second_field) {
   bool const is_slow = (format_ & Format_slow_timecode) != 0;
   second_field = is_slow && (sample & 1) != 0;
   if (is_slow) sample /= 2;
-  remember(timecode_count{modulus_}.split(wrap_into_day(sample, samples_per_day_)));
+  remember(plain_count().split(wrap_into_day(sample, samples_per_day_)));
 }
 
-int timecode_label::hmsf_to_sample() { return timecode_count{modulus_}.join(remembered()); }
+int timecode_label::hmsf_to_sample() { return plain_count().join(remembered()); }
+
+timecode_count timecode_label::plain_count() const noexcept {
+  bool const is_own = count_.frames_per_second() == modulus_ && !count_.is_drop_frame();
+  return is_own ? count_ : timecode_count{modulus_};
+}
 
 void ntsc_drop_label::sample_to_hmsf(int sample, bool& second_field) {
   second_field = false;

@@ -125,6 +125,9 @@ class LABELSBASE_API timecode_label : public variable_label {
 
  private:
   LABELSBASE_LOCAL void use_setting(labelsbase::timecode_facts const& facts);
+
+  // Returns the count without drop-frame, by the modulus, which hosts' classes may set.
+  [[nodiscard]] LABELSBASE_LOCAL labelsbase::timecode_count plain_count() const noexcept;
   LABELSBASE_LOCAL char const* write_any(LabelPoint* point, int sample);
   [[nodiscard]] LABELSBASE_LOCAL int read_any(char const* text);
 
