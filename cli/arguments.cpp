@@ -72,6 +72,8 @@ void add_note(CLI::App& command, char const* text) {
   command.footer(std::string{text} + "\n\nRun 'labels --help' for settings and exit codes.");
 }
 
+std::string command_name(CLI::App const& command) { return command.get_name(); }
+
 int number_in(std::string_view option, std::string_view value, int least, int most) {
   auto const number = signed_number(value);
   if (number && *number >= least && *number <= most) return *number;

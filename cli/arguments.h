@@ -37,6 +37,9 @@ CLI::Option* add_flag(CLI::App& command, char const* name, bool& flag, char cons
 void add_examples(CLI::App& command, std::initializer_list<char const*> lines);
 void add_note(CLI::App& command, char const* text);
 
+// Returns the command's name.
+[[nodiscard]] std::string command_name(CLI::App const& command);
+
 // Returns the value of an option as a whole number from `least` to `most`, or refuses it.
 [[nodiscard]] int number_in(std::string_view option, std::string_view value, int least, int most);
 

@@ -26,7 +26,8 @@ class App;
   row(roll,    "Explain and compare medium-roll identifiers")                           \
   row(pitch,   "Show how fast a label runs on a medium")                                \
   row(clock,   "Convert clock time to cel time and back")                               \
-  row(choices, "List the label choices of the user interface")
+  row(choices, "List the label choices of the user interface")                          \
+  row(schema,  "Print the JSON Schema of what a command writes with --format json")
 // clang-format on
 
 namespace cli {

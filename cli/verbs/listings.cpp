@@ -1,96 +1,85 @@
 // types, media and choices: what the library knows, as tables.
 
-#include <algorithm>
-#include <array>
-#include <charconv>
+#include <memory>
+#include <span>
 #include <string>
-#include <vector>
 
 #include "cli/arguments.h"
 #include "cli/commands.h"
 #include "cli/film.h"
 #include "cli/names.h"
+#include "cli/records.h"
 #include "labelsbase/MediumRoll.h"
 #include "labelsbase/uiflabels.h"
 
 namespace cli {
 namespace {
 
-struct column {
-  char const* heading;
-  bool is_number = false;  // aligned to the right
+// The arguments of a listing.
+struct arguments {
+  std::string format;
 };
 
-using row = std::vector<std::string>;  // a text for each column
+value text_or_missing(char const* text) { return text ? value{text} : missing; }
 
-// Writes the headings and the rows, every column as wide as its longest text.
-void write_table(std::vector<column> const& columns, std::vector<row> const& rows, output& results) {
-  std::vector<std::size_t> widths;
-  row headings;
-  for (auto const& each : columns) {
-    auto width = std::string_view{each.heading}.size();
-    for (auto const& texts : rows) width = std::max(width, texts[widths.size()].size());
-    widths.push_back(width);
-    headings.emplace_back(each.heading);
+value family_or_missing(UserLabelType family) {
+  bool const has_name = family != User_none && family != User_no_label;
+  return text_or_missing(has_name ? family_name(family) : nullptr);
+}
+
+// Timecode types only have frames_per_second, types that count perforations the next three, and types with labels
+// a template.
+constexpr field type_fields[] = {
+    {"number", value_type::integer, "Number of the label type", "number"},
+    {"name", value_type::text, "Class name", "name"},
+    {"family", value_type::text, "Family: timecode, key-number, feet, ink, film-frames or any", "family",
+     may_be_missing},
+    {"exchange_name", value_type::text, "Name in decision lists", "exchange", may_be_missing},
+    {"counted_frames_per_second", value_type::integer, "Frames that a second of its labels counts", "frames/s",
+     may_be_missing},
+    {"frames_per_key", value_type::integer, "Frame numbers of a key number, ink number or foot", "frames/key",
+     may_be_missing},
+    {"perfs_per_frame", value_type::integer, "Perforations of a frame", "perfs/frame", may_be_missing},
+    {"perfs_per_key", value_type::integer, "Perforations of a key number, ink number or foot", "perfs/key",
+     may_be_missing},
+    {"template", value_type::text, "The largest digit of each place; ? is any character", "template",
+     may_be_missing},
+};
+
+exit_status types(arguments const& given, console& io) {
+  record_writer records{find_format(given.format), type_fields, io.results};
+  for (auto const& facts : labelsbase::all_label_facts) {
+    if (!*facts.name) continue;
+    auto& converter = *get_static_label_cvt(facts.type);
+    bool const has_perfs = facts.is_film() && counts_perforations(facts);
+    auto const& gauge = facts.film.gauge;
+    auto const number = [](bool applies, int count) { return applies ? value{count} : missing; };
+    records.write({
+        int{facts.type},
+        facts.name,
+        family_or_missing(facts.family),
+        text_or_missing(facts.exchange.written),
+        number(facts.is_timecode(), converter.get_modulus()),  // a setting may have slowed the count
+        number(has_perfs, gauge.frames_per_count()),
+        number(has_perfs, gauge.perfs_per_frame()),
+        number(has_perfs, gauge.perfs_per_count()),
+        text_or_missing(facts.has_labels() ? converter.get_template(true).text() : nullptr),
+    });
   }
-
-  auto const write = [&](row const& texts) {
-    std::string line;
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-      std::string const padding(widths[i] - texts[i].size(), ' ');
-      line += columns[i].is_number ? padding + texts[i] : texts[i] + padding;
-      line += "  ";
-    }
-    line.erase(line.find_last_not_of(' ') + 1);
-    results.line(line);
-  };
-  write(headings);
-  for (auto const& each : rows) write(each);
-}
-
-row row_of(labelsbase::label_facts const& facts) {
-  auto& converter = *get_static_label_cvt(facts.type);
-  bool const is_timecode = facts.is_timecode();
-  bool const has_perfs = facts.is_film() && counts_perforations(facts);
-  auto const& gauge = facts.film.gauge;
-  auto const number = [](bool applies, int value) { return applies ? std::to_string(value) : "-"; };
-  return {std::to_string(facts.type),
-          facts.name,
-          family_name(facts.family),
-          facts.exchange.written ? facts.exchange.written : "-",
-          number(is_timecode, converter.get_modulus()),  // a setting may have slowed the count
-          number(has_perfs, gauge.frames_per_count()),
-          number(has_perfs, gauge.perfs_per_frame()),
-          number(has_perfs, gauge.perfs_per_count()),
-          facts.has_labels() ? converter.get_template(true).text() : "-"};
-}
-
-exit_status types(console& io) {
-  std::vector<row> rows;
-  for (auto const& facts : labelsbase::all_label_facts)
-    if (*facts.name) rows.push_back(row_of(facts));
-  write_table({{"number", true},
-               {"name"},
-               {"family"},
-               {"exchange"},
-               {"frames/s", true},
-               {"frames/key", true},
-               {"perfs/frame", true},
-               {"perfs/key", true},
-               {"template"}},
-              rows, io.results);
   return all_well;
 }
 
-// To three places: "23.976" or "12.5".
-std::string in_thousandths(double number) {
-  std::array<char, 32> text;
-  auto const end = std::to_chars(text.begin(), text.end(), number, std::chars_format::fixed, 3).ptr;
-  std::string result{text.begin(), end};
-  result.erase(result.find_last_not_of('0') + 1);
-  if (result.back() == '.') result.pop_back();
-  return result;
-}
+constexpr field media_fields[] = {
+    {"number", value_type::integer, "Number of the medium", "number"},
+    {"name", value_type::text, "Name of the medium", "name"},
+    {"user_text", value_type::text, "What users read for it", "user"},
+    {"rate_fps", value_type::number, "Frames a second", "frames/s", may_be_missing},
+    {"sample", value_type::text, "How frames are scanned: frame (as a whole) or field (as two fields)", "sample",
+     may_be_missing},
+    {"label_type", value_type::text, "Class name of its label type", "label type", may_be_missing},
+    {"also_accepts", value_type::text, "Numbers of the media that fit in its place, separated by blanks, or all",
+     "also accepts", may_be_missing},
+};
 
 std::string user_word(MediumRollMedium medium) {
   std::string const text = MediumRollId_to_UserString({medium, Gen_any});
@@ -107,48 +96,62 @@ std::string others_accepted(MediumRollMedium asked) {
     if (!numbers.empty()) numbers += ' ';
     numbers += std::to_string(other);
   }
-  return numbers.empty() ? "-" : numbers;
+  return numbers;
 }
 
-row row_of(MediumRollMedium medium) {
-  row texts{std::to_string(medium), labelsbase::medium_name(medium), user_word(medium)};
-  if (auto const rate = getFrameRatefromMedium(medium); rate != Kiv::FrameRate_unknown) {
-    texts.push_back(in_thousandths(Kiv::getFramesPerSecond(rate)));
-    texts.emplace_back(mediumRollIsFrameProgressive(medium) ? "frame" : "field");
-    texts.emplace_back(labelsbase::label_type_name(getDefaultLabelTypeForMedium(medium)));
-  } else {
-    texts.insert(texts.end(), 3, "-");
-  }
-  texts.push_back(others_accepted(medium));
-  return texts;
-}
-
-exit_status media(console& io) {
-  std::vector<row> rows;
+exit_status media(arguments const& given, console& io) {
+  record_writer records{find_format(given.format), media_fields, io.results};
   for (int number = Medium_any; number < labelsbase::medium_count; ++number) {
     auto const medium = static_cast<MediumRollMedium>(number);
-    if (*labelsbase::medium_name(medium)) rows.push_back(row_of(medium));
+    if (!*labelsbase::medium_name(medium)) continue;
+    auto const user = user_word(medium);
+    auto const accepted = others_accepted(medium);
+    value rate = missing;
+    value scan = missing;
+    value label_type = missing;
+    if (auto const code = getFrameRatefromMedium(medium); code != Kiv::FrameRate_unknown) {
+      rate = Kiv::getFramesPerSecond(code);
+      scan = mediumRollIsFrameProgressive(medium) ? "frame" : "field";
+      label_type = labelsbase::label_type_name(getDefaultLabelTypeForMedium(medium));
+    }
+    records.write({number, labelsbase::medium_name(medium), user, rate, scan, label_type,
+                   text_or_missing(accepted.empty() ? nullptr : accepted.c_str())});
   }
-  write_table(
-      {{"number", true}, {"name"}, {"user"}, {"frames/s", true}, {"sample"}, {"label type"}, {"also accepts"}},
-      rows, io.results);
   return all_well;
 }
 
-exit_status choices(console& io) {
-  std::vector<row> rows;
+constexpr field choice_fields[] = {
+    {"number", value_type::integer, "Number of the choice", "number"},
+    {"keyword", value_type::text, "Name in configurations", "keyword"},
+    {"text_id", value_type::integer, "Number of its text in the user interface", "text"},
+    {"family", value_type::text, "Family: timecode, key-number, feet, ink, film-frames or any", "family",
+     may_be_missing},
+    {"roll", value_type::text, "Medium and generation", "roll", may_be_missing},
+    {"user_text", value_type::text, "What users read for medium and generation", "user", may_be_missing},
+};
+
+exit_status choices(arguments const& given, console& io) {
+  record_writer records{find_format(given.format), choice_fields, io.results};
   for (int number = 0; number <= uif_cd; ++number) {
     auto const choice = static_cast<VagueUIFLabel>(number);
     auto const& roll = uifLabelMedroll(choice);
     char identifier[labelsbase::identifier_text_size];
     MediumRollId_to_string(identifier, roll);
+    auto const user = std::string{MediumRollId_to_UserString(roll)};
     bool const has_roll = roll.medium != Medium_none;
-    rows.push_back({std::to_string(number), uifLabel_to_config_str(choice), std::to_string(uifLabelText(choice)),
-                    family_name(uifLabelType(choice)), has_roll ? identifier : "-",
-                    has_roll ? MediumRollId_to_UserString(roll) : "-"});
+    records.write({number, uifLabel_to_config_str(choice), uifLabelText(choice),
+                   family_or_missing(uifLabelType(choice)), text_or_missing(has_roll ? identifier : nullptr),
+                   text_or_missing(has_roll ? user.c_str() : nullptr)});
   }
-  write_table({{"number", true}, {"keyword"}, {"text", true}, {"family"}, {"roll"}, {"user"}}, rows, io.results);
   return all_well;
+}
+
+// Declares --format and runs the listing with it.
+command_run listing(CLI::App& command, std::span<field const> fields,
+                    exit_status (*list)(arguments const&, console&)) {
+  auto const given = std::make_shared<arguments>();
+  add_format(command, given->format, fields);
+  return [given, list](console& io) { return list(*given, io); };
 }
 
 }  // namespace
@@ -158,7 +161,7 @@ command_run commands::declare_types(CLI::App& command) {
            "Types without a template are bases of others and have no labels. A template shows the largest digit\n"
            "of each place; ? stands for any character. frames/key and perfs/key are those of a key number, an\n"
            "ink number or a foot.");
-  return types;
+  return listing(command, type_fields, types);
 }
 
 command_run commands::declare_media(CLI::App& command) {
@@ -166,14 +169,14 @@ command_run commands::declare_media(CLI::App& command) {
       command,
       "sample says how frames are scanned: as a whole (frame) or as two fields (field). \"also accepts\" lists\n"
       "the media that fit where this one is asked for; see 'labels roll --help'.");
-  return media;
+  return listing(command, media_fields, media);
 }
 
 command_run commands::declare_choices(CLI::App& command) {
   add_note(command,
            "keyword is the choice's name in configurations, text the number of its text in the user interface,\n"
            "roll its medium and generation, and user how users see these.");
-  return choices;
+  return listing(command, choice_fields, choices);
 }
 
 }  // namespace cli
