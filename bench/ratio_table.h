@@ -1,45 +1,50 @@
-// The table at the end of a run: each conversion, the same work done by the C library, and the ratio.
+// The table of a run: each work, the same work done another way, and the ratio.
 #pragma once
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <cstdio>
-#include <map>
 #include <string>
 #include <vector>
 
 namespace bench {
 
-// Expects benchmarks named "TASK/TYPE" and, for the C library, "TASK/TYPE/libc". Machines are noisy, so it takes
-// the fastest repetition of each. Compare ratios within one run, not times of two runs.
-class ratio_reporter : public benchmark::ConsoleReporter {
+// Prints a row as its benchmarks end. Expects "WORK/TYPE" and, behind it, "WORK/TYPE|WAY" for the other way.
+// Machines are noisy, so it takes the fastest repetition of each. Compare ratios within one run, not times of two
+// runs.
+class ratio_reporter : public benchmark::BenchmarkReporter {
  public:
-  void ReportRuns(std::vector<Run> const& runs) override {
-    ConsoleReporter::ReportRuns(runs);
-    for (auto const& run : runs) {
-      if (run.run_type != Run::RT_Iteration || run.error_occurred) continue;
-      std::string const name = run.run_name.function_name;
-      double const nanoseconds = 1e9 / run.counters.at("items_per_second");
-      auto const [known, is_new] = fastest_.emplace(name, nanoseconds);
-      if (is_new) names_.push_back(name);
-      if (nanoseconds < known->second) known->second = nanoseconds;
-    }
+  bool ReportContext(Context const&) override {
+    std::printf("%-28s %10s %10s %8s %8s", "nanoseconds a label", "labelsbase", "beside", "", "times");
+    return true;
   }
 
-  void Finalize() override {
-    ConsoleReporter::Finalize();
-    std::printf("\n%-28s %10s %14s %8s\n", "nanoseconds a label", "labelsbase", "snprintf/sscanf", "times");
-    for (auto const& name : names_) {
-      auto const other = fastest_.find(name + "/libc");
-      if (other == fastest_.end()) continue;
-      double const own = fastest_.at(name);
-      std::printf("%-28s %10.2f %14.1f %8.1f\n", name.c_str(), own, other->second, other->second / own);
+  void ReportRuns(std::vector<Run> const& runs) override {
+    double fastest = 0.0;
+    for (auto const& run : runs)
+      if (run.run_type == Run::RT_Iteration && !run.error_occurred)
+        fastest = std::max(fastest, run.counters.at("items_per_second").value);
+    if (fastest == 0.0) return;
+
+    std::string const name = runs.front().run_name.function_name;
+    auto const bar = std::min(name.find('|'), name.size());
+    double const nanoseconds = 1e9 / fastest;
+    if (bar == name.size()) {
+      std::printf("\n%-28s %10.2f", name.c_str(), nanoseconds);
+      own_name_ = name;
+      own_ = nanoseconds;
+    } else if (name.substr(0, bar) == own_name_) {
+      std::printf(" %10.2f %-8s %8.1f", nanoseconds, name.c_str() + bar + 1, nanoseconds / own_);
     }
+    std::fflush(stdout);
   }
+
+  void Finalize() override { std::puts(""); }
 
  private:
-  std::map<std::string, double> fastest_;
-  std::vector<std::string> names_;
+  std::string own_name_;
+  double own_ = 0.0;
 };
 
 }  // namespace bench
