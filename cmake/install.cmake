@@ -1,12 +1,12 @@
 # The installed package: find_package(labelsbase) defines the targets labelsbase::labelsbase, labelsbase::host (the
-# declarations alone), labelsbase::refhost and labelsbase::labelcheck.
+# declarations alone), labelsbase::refhost, labelsbase::labelcheck and labelsbase::labelconvert.
 
 include(CMakePackageConfigHelpers)
 
 set(labelsbase_include_dir "${CMAKE_INSTALL_INCLUDEDIR}/labelsbase-${PROJECT_VERSION_MAJOR}")
 set(labelsbase_cmake_dir "${CMAKE_INSTALL_LIBDIR}/cmake/labelsbase")
 
-install(TARGETS labelsbase_host labelsbase refhost labelcheck
+install(TARGETS labelsbase_host labelsbase refhost labelcheck labelconvert
         EXPORT labelsbaseTargets
         FILE_SET HEADERS DESTINATION "${labelsbase_include_dir}")
 if(LABELSBASE_TOOL)
