@@ -33,7 +33,8 @@ void add_required(CLI::App& command, char const* name, std::string& value, char 
 }
 
 void add_type(CLI::App& command, std::string& type) {
-  add_required(command, "TYPE", type, "Label type: class name (pal_label), number (5) or exchange name (25f)");
+  add_required(command, "TYPE", type,
+               "Label type, for example 25, 29.97df, 23.976, 35mm or feet35; 'labels types' lists them");
 }
 
 void add_operands(CLI::App& command, char const* name, char const* meaning, std::vector<std::string>& operands) {

@@ -15,8 +15,8 @@ class App;
 //           name     what it does
 #define LABELS_COMMANDS(row)                                                            \
   row(types,   "List the label types")                                                  \
-  row(show,    "Convert samples to labels")                                             \
-  row(read,    "Convert labels to samples")                                             \
+  row(show,    "Convert frames to labels")                                             \
+  row(read,    "Convert labels to frames")                                             \
   row(add,     "Add frames to a label")                                                 \
   row(diff,    "Subtract labels from a label, in frames")                               \
   row(keep,    "Explain or write keep strings, the text form in which hosts store labels") \

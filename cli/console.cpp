@@ -66,6 +66,10 @@ void console::say(std::string_view message) noexcept {
   messages_.line(message);
 }
 
+void console::hint(std::string_view message) {
+  say(place.number > 0 ? place.text().append(": ").append(message) : std::string{message});
+}
+
 void console::flush() noexcept {
   results.flush();
   errors_.flush();

@@ -43,14 +43,26 @@ class output {
   std::array<char, 65'536> buffer_;
 };
 
+// Where an item stands: "line 3" or "argument 3".
+struct item_place {
+  char const* kind = "";
+  std::int64_t number = 0;  // from 1; 0 outside the items
+
+  [[nodiscard]] std::string text() const { return std::string{kind} + " " + std::to_string(number); }
+};
+
 class console {
  public:
   console() noexcept;
 
   output results{STDOUT_FILENO};
+  item_place place{};  // of the item that is processed
 
   // Writes a message line: say("standard input: Is a directory") writes "labels: standard input: Is a directory".
   void say(std::string_view message) noexcept;
+
+  // Writes a message line about the item that is processed: hint("blank") writes "labels: line 3: blank".
+  void hint(std::string_view message);
 
   void flush() noexcept;
 

@@ -7,7 +7,9 @@
 #include <string>
 #include <string_view>
 
+#include "cli/console.h"
 #include "cli/input.h"
+#include "host/frame_rate.h"
 #include "labelcheck/read.h"
 #include "labelsbase/labels.h"
 
@@ -17,22 +19,21 @@ class App;
 
 namespace cli {
 
-// What a label says.
-using label_parts = labelcheck::reading;
+// --- Which labels ---
 
-// Reads a label strictly, prefix included, or returns what is wrong with it.
-[[nodiscard]] problem read_label(label_t type, std::string_view text, label_parts& out);
-
-// The arguments TYPE and --prefix.
+// The arguments TYPE and --prefix, or the options of a command that stand for them.
 struct label_arguments {
-  std::string type;
-  std::optional<std::string> prefix;
+  std::string type{};
+  std::optional<std::string> prefix{};
+  char const* type_argument = "TYPE";
+  char const* prefix_option = "--prefix";
 };
 
 // The labels that a command works on.
 struct label_kind {
   label_t type;
-  std::string prefix;  // empty if none was given
+  Kiv::FrameRate rate;  // of the material: 24 and 23.976 have one type
+  std::string prefix;   // empty if none was given
 };
 
 void add_label_kind(CLI::App& command, label_arguments& given);
@@ -40,22 +41,83 @@ void add_label_kind(CLI::App& command, label_arguments& given);
 // Refuses an unknown type and a prefix that its labels cannot have.
 [[nodiscard]] label_kind find_label_kind(label_arguments const& given);
 
-// Reads labels strictly. If the kind has a prefix, labels may be written without it, but not with another.
+// --- Reading ---
+
+// What a label says.
+using label_parts = labelcheck::reading;
+
+// Reads a label strictly, prefix included, or returns what is wrong with it.
+[[nodiscard]] problem read_label(label_t type, std::string_view text, label_parts& out);
+
+// The options --illegal, --entry and --at.
+struct reading_arguments {
+  std::string illegal = "refuse";
+  std::string entry = "full";
+  std::optional<std::string> at{};
+};
+
+void add_reading(CLI::App& command, reading_arguments& given);
+
+// Reads labels as users write them:
+// - If the kind has a prefix, labels may be written without it, but not with another.
+// - ":", ";", "." and "+" may come before the frames of every timecode, and ";" before all fields. The first label
+//   whose separator belongs to another kind of timecode is reported.
+// - --illegal nearest reads the nearest valid label in place of one that is refused. as-is reads what the library
+// does.
+// - --entry short reads short_entry.h; sums count from --at.
 class label_reader {
  public:
   explicit label_reader(label_kind const& kind);
 
-  // As read_label. The prefix is valid until the next call.
+  // Refuses values that the options do not have. Reports hints to `io`, which must outlive the reader.
+  label_reader(label_kind const& kind, reading_arguments const& given, console& io);
+
+  // Returns what is wrong with the text, or nothing if `out` is filled. The prefix is valid until the next call,
+  // and while the text is.
   [[nodiscard]] problem read(std::string_view text, label_parts& out);
 
  private:
+  enum class illegal_labels { refuse, nearest, as_is };
+
+  [[nodiscard]] static illegal_labels find_illegal(std::string const& text);
+  [[nodiscard]] static bool is_short_entry(std::string const& text);
+
+  [[nodiscard]] problem read_entry(std::string_view text, label_parts& out);
+  [[nodiscard]] problem read_full(std::string_view text, label_parts& out);
+  [[nodiscard]] problem read_refused(labelcheck::refusal const& refused, std::string_view text,
+                                     std::string_view untyped, label_parts& out);
+  [[nodiscard]] problem read_as_library(std::string_view text, label_parts& out);
+  [[nodiscard]] bool read_other_separators(std::string_view text, label_parts& out);
   [[nodiscard]] bool lacks_prefix(std::string_view text) const noexcept;
 
   label_kind kind_;
   std::size_t prefix_length_;
   std::size_t count_digits_;
-  std::string whole_;  // prefix and label
+  illegal_labels illegal_ = illegal_labels::refuse;
+  bool short_entry_ = false;
+  console* io_ = nullptr;           // null: no hints
+  bool has_hinted_ = false;         // at a separator of another kind
+  std::optional<LabelPoint> at_{};  // of --at
+  std::string whole_;               // prefix and label
+  std::string respelt_;             // another spelling of the label
 };
+
+// --- Writing ---
+
+// The option --style.
+struct writing_arguments {
+  std::string style = "own";
+};
+
+enum class label_style {
+  own,       // as the type writes it: "01:00:00.00", "01:00:00;00" and "01:00:00+00"
+  exchange,  // timecode as other systems write it: ":" before the frames, ";" for drop-frame only
+};
+
+void add_writing(CLI::App& command, writing_arguments& given);
+
+// Refuses any other style.
+[[nodiscard]] label_style find_label_style(writing_arguments const& given);
 
 // The samples that labels of a type can express.
 struct sample_range {
@@ -70,7 +132,7 @@ struct sample_range {
 // Writes samples as labels. Positive labels have no sign column.
 class label_writer {
  public:
-  explicit label_writer(label_kind const& kind);
+  explicit label_writer(label_kind const& kind, label_style style = label_style::own);
 
   // Writes the label of a sample, or returns why it has none. The label is valid until the next call.
   [[nodiscard]] problem write(int sample, std::string_view& label);
@@ -81,9 +143,19 @@ class label_writer {
   LabelPoint negative_;
   LabelPoint positive_;
   sample_range range_;
+  std::size_t exchange_digits_;  // behind the separator that exchange style replaces; 0 for other styles
 };
 
 // Copies a prefix into the point; the part that does not fit is left out.
 void set_prefix(LabelPoint& point, std::string_view prefix) noexcept;
+
+// --- Counting ---
+
+// Declares --perfs, which counts perforations instead of frames.
+void add_perfs(CLI::App& command, bool& perfs);
+
+// Returns the samples of what a command counts: 1 with --perfs, otherwise those of a frame. Refuses --perfs for
+// types whose samples are frames.
+[[nodiscard]] int samples_per_count(label_kind const& kind, bool perfs);
 
 }  // namespace cli

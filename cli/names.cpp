@@ -1,7 +1,6 @@
 #include "cli/names.h"
 
 #include <algorithm>
-#include <iterator>
 
 #include "cli/console.h"
 #include "cli/text.h"
@@ -10,35 +9,17 @@
 namespace cli {
 namespace {
 
-using labelsbase::label_facts;
-
-bool equal_in_any_case(std::string_view a, std::string_view b) noexcept {
-  auto const lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-  return std::ranges::equal(a, b, {}, lower, lower);
-}
-
-// The library reads an exchange name up to a blank and at most 11 characters; here all of the text must match.
-label_t type_of_exchange_name(std::string const& text) {
-  bool const is_word = text.size() <= 11 && text.find_first_of(" \t\n\v\f\r") == std::string::npos;
-  return is_word ? edlstr_to_label_type(text.c_str()) : null_label_t;
-}
-
-// Returns the first type with this number or one of these names, or null if there is none. The names that the
-// library reads come before those that it only writes, such as "12f".
-label_facts const* type_named(std::string const& text) {
-  auto const first = [](auto matches) {
-    auto const* const found = std::ranges::find_if(
-        labelsbase::all_label_facts, [&](label_facts const& facts) { return *facts.name && matches(facts); });
-    return found == std::end(labelsbase::all_label_facts) ? nullptr : found;
-  };
-  if (text.empty()) return nullptr;
-  if (auto const number = whole_number(text))
-    return first([&](auto const& facts) { return facts.type == *number; });
-  if (auto const* named = first([&](auto const& facts) { return text == facts.name; })) return named;
-  if (auto const type = type_of_exchange_name(text); type != null_label_t) return &labelsbase::facts_of(type);
-  return first([&](auto const& facts) {
-    return facts.exchange.written && equal_in_any_case(text, facts.exchange.written);
+// A type without labels by its class name, such as "keycode_label".
+bool names_a_base(std::string_view text) noexcept {
+  return std::ranges::any_of(labelsbase::all_label_facts, [text](auto const& facts) {
+    return *facts.name && !facts.has_labels() && text == facts.name;
   });
+}
+
+std::string near_names(std::string_view text) {
+  std::string names;
+  for (auto const& name : labelnames::nearest(text)) names.append(names.empty() ? "" : ", ").append(name);
+  return names;
 }
 
 // Returns Medium_none if there is no medium with this number or name.
@@ -53,16 +34,21 @@ MediumRollMedium medium_named(std::string_view text) {
 
 }  // namespace
 
-label_t find_label_type(std::string_view where, std::string const& text) {
-  auto const* const facts = type_named(text);
-  if (!facts)
-    refuse(where, text,
-           "unknown label type; expected a class name (pal_label), a number (5) or an exchange name (25f) from"
-           " 'labels types'");
-  if (!facts->has_labels())
-    refuse(where, text,
-           std::string{facts->name} + " has no labels; expected a type that has a template in 'labels types'");
-  return facts->type;
+labelnames::named_type find_named_type(std::string_view where, std::string_view text) {
+  if (auto const named = labelnames::find(text)) return *named;
+  if (names_a_base(text))
+    refuse(where, text, std::string{text} + " has no labels of its own; expected a name from 'labels types'");
+  if (all_digits(text) && labelnames::find("#" + std::string{text}))
+    refuse(where, text, "unknown rate; for the type of this number write '#" + std::string{text} + "'");
+  auto const near = near_names(text);
+  refuse(
+      where, text,
+      "unknown label type; " + (near.empty() ? "expected a name from 'labels types', such as 25, 29.97df or 35mm"
+                                             : "nearest: " + near));
+}
+
+label_t find_label_type(std::string_view where, std::string_view text) {
+  return find_named_type(where, text).type;
 }
 
 char const* family_name(UserLabelType family) noexcept {

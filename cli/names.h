@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "cli/input.h"
+#include "labelnames/names.h"
 #include "labelsbase/MediumRoll.h"
 #include "labelsbase/labelcvt.h"
 
@@ -12,9 +13,11 @@ namespace cli {
 
 // The functions that refuse a text say `where` it was given: "TYPE" or an option.
 
-// Returns the type with this class name ("pal_label"), number ("5") or exchange name ("25f", in any case). Refuses
-// unknown types and types without labels.
-[[nodiscard]] label_t find_label_type(std::string_view where, std::string const& text);
+// Returns the type and the rate of a name that labelnames knows. Refuses unknown names, and says which are near.
+[[nodiscard]] labelnames::named_type find_named_type(std::string_view where, std::string_view text);
+
+// Returns the type alone.
+[[nodiscard]] label_t find_label_type(std::string_view where, std::string_view text);
 
 // Returns "timecode", "key-number" and so on, "any" for User_any, or "-" for a type without labels.
 [[nodiscard]] char const* family_name(UserLabelType family) noexcept;

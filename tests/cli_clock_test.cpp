@@ -26,7 +26,8 @@ TEST_F(Tool, RefusesInvalidClockTimes) {
                                     "7: \"1e999\"", "8: \" 2\"", "9: \"1:00\""})
     expected += std::string{"labels: argument "} + refused +
                 ": expected seconds, for example 3600 or -0.04, between -1e99 and 1e99\n";
-  expect({{"labels clock -- 1e99 1 '' 0x1 nan -inf 1e999 ' 2' 1:00", "1\n", expected.c_str(), 1}});
+  expect({{"labels clock -- 1e99 1 '' 0x1 nan -inf 1e999 ' 2' 1:00", "?\n1\n?\n?\n?\n?\n?\n?\n?\n",
+           expected.c_str(), 1}});
 
   auto const wrong_rates = run("labels clock --project-rate fast --output-rate 31 1");
   EXPECT_EQ(wrong_rates.out, "");

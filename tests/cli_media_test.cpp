@@ -19,16 +19,17 @@ TEST_F(Tool, ReadsIdentifiers) {
 TEST_F(Tool, RefusesIdentifiersThatTheCatalogueLacks) {
   std::string const medium = "; expected a number (28) or a name (out_24p) from 'labels media'\n";
   std::string const generation = "; expected 1 (any), 2 to 5 (1st to 4th) or 0 (the usual one of the medium)\n";
-  auto const err = "labels: line 1: \"28,6\": unknown generation \"6\"" + generation +    //
-                   "labels: line 2: \"999,1\": unknown medium \"999\"" + medium +         //
-                   "labels: line 4: \"5\": unknown medium \"5\"" + medium +               //
-                   "labels: line 5: \"028\": unknown medium \"028\"" + medium +           //
-                   "labels: line 6: \"\": unknown medium \"\"" + medium +                 //
-                   "labels: line 7: \"28, 1\": unknown generation \" 1\"" + generation +  //
-                   "labels: line 8: \"out_24\": unknown medium \"out_24\"" + medium +     //
+  auto const err = "labels: line 1: \"28,6\": unknown generation \"6\"" + generation +  //
+                   "labels: line 2: \"999,1\": unknown medium \"999\"" + medium +       //
+                   "labels: line 4: \"5\": unknown medium \"5\"" + medium +             //
+                   "labels: line 5: \"028\": unknown medium \"028\"" + medium +         //
+                   "labels: line 6: blank; blank lines are passed through\n"            //
+                   "labels: line 7: \"28, 1\": unknown generation \" 1\"" +
+                   generation +                                                        //
+                   "labels: line 8: \"out_24\": unknown medium \"out_24\"" + medium +  //
                    "labels: line 9: \"28,\": unknown generation \"\"" + generation;
   expect({{"printf '28,6\\n999,1\\n28,1\\n5\\n028\\n\\n28, 1\\nout_24\\n28,\\n' | labels roll",
-           "28,1\tout_24p\tmed?,anyGen\n", err.c_str(), 1},
+           "?\n?\n28,1\tout_24p\tmed?,anyGen\n?\n?\n\n?\n?\n?\n", err.c_str(), 1},
           {"labels roll --for 999 28", "", "labels: --for \"999\": unknown medium \"999\"", 2}});
 }
 

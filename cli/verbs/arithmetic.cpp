@@ -1,14 +1,13 @@
-// add and diff: labels and distances in frames or perforations.
+// add and diff: labels and their distances.
 
 #include <cstdint>
-#include <limits>
 #include <memory>
 
 #include "cli/arguments.h"
 #include "cli/commands.h"
-#include "cli/film.h"
 #include "cli/input.h"
 #include "cli/label_io.h"
+#include "cli/sums.h"
 #include "cli/text.h"
 
 namespace cli {
@@ -16,44 +15,23 @@ namespace {
 
 struct arguments {
   label_arguments kind;
+  reading_arguments reading;
+  writing_arguments writing;
   std::string label;
-  std::vector<std::string> operands;
+  item_arguments operands;
   bool perfs = false;
+  bool origin = false;
 };
 
-constexpr bool is_sample(std::int64_t value) noexcept {
-  return value >= std::numeric_limits<std::int32_t>::min() && value <= std::numeric_limits<std::int32_t>::max();
-}
-
-// Returns the samples of a frame, or 1 where the user counts perforations.
-int unit_of(arguments const& given, labelsbase::label_facts const& facts) noexcept {
-  return given.perfs ? 1 : facts.samples_per_frame();
-}
-
-// Whether the sum wrapped by whole runs of the count, if at all. Key numbers at 3 perforations a frame wrap as if
-// every key had 22 frames, which no film has. So a wrapped sum is not the frame that comes next on the film.
-bool wraps_by_whole_runs(labelsbase::label_facts const& facts, int sum, std::int64_t unwrapped) noexcept {
-  if (facts.film.prefix_length == 0 || sum == unwrapped) return true;
-  return (sum - unwrapped) % perfs_per_run(facts) == 0;
-}
-
 exit_status add(arguments const& given, label_kind const& kind, LabelPoint const& start, console& io) {
-  label_writer labels{{kind.type, start.prefix}};
-  auto const& facts = labelsbase::facts_of(kind.type);
-  int const unit = unit_of(given, facts);
+  label_writer labels{{kind.type, kind.rate, start.prefix}, find_label_style(given.writing)};
+  int const unit = samples_per_count(kind, given.perfs);
 
   return for_each_item(given.operands, io, [&](std::string_view text) -> problem {
     auto const amount = signed_number(text);
     if (!amount) return std::string{"expected a whole number of "} + (given.perfs ? "perforations" : "frames");
-    auto const samples = std::int64_t{*amount} * unit;
-    if (!is_sample(samples) || !is_sample(start.sample + samples))
-      return "leads beyond the range of samples, -2147483648 to 2147483647";
-
-    LabelPoint distance{kind.type, 0};
-    distance.sample = static_cast<int>(samples);
-    int const sum = (start + distance).sample;
-    if (!wraps_by_whole_runs(facts, sum, start.sample + samples))
-      return "leads beyond the first or last key, where the labels do not go on";
+    int sum = 0;
+    if (auto wrong = add_samples(start, std::int64_t{*amount} * unit, sum)) return wrong;
 
     std::string_view label;
     if (auto wrong = labels.write(sum, label))
@@ -64,8 +42,8 @@ exit_status add(arguments const& given, label_kind const& kind, LabelPoint const
 }
 
 exit_status diff(arguments const& given, label_kind const& kind, LabelPoint const& a, console& io) {
-  label_reader labels{kind};
-  int const unit = unit_of(given, labelsbase::facts_of(kind.type));
+  label_reader labels{kind, given.reading, io};
+  int const unit = samples_per_count(kind, given.perfs);
   LabelPoint b{kind.type, 0};
 
   return for_each_item(given.operands, io, [&](std::string_view text) -> problem {
@@ -73,12 +51,12 @@ exit_status diff(arguments const& given, label_kind const& kind, LabelPoint cons
     if (auto wrong = labels.read(text, label)) return wrong;
     if (label.prefix != a.prefix)
       return std::string{"the prefix is "}.append(label.prefix) + ", from another roll than " + a.prefix;
-    if (!is_sample(std::int64_t{a.sample} - label.sample))
+    if (!is_sample(std::int64_t{a.sample} - label.sample) || !is_sample(std::int64_t{label.sample} - a.sample))
       return "the difference is beyond the range of samples, -2147483648 to 2147483647";
 
     b.sample = label.sample;
     set_prefix(b, label.prefix);
-    int const samples = (a - b).sample;
+    int const samples = (given.origin ? b - a : a - b).sample;
     if (samples % unit != 0)
       return "the difference of " + std::to_string(samples) +
              " perforations is not a whole number of frames; use --perfs to show it";
@@ -92,11 +70,7 @@ using operation = exit_status (*)(arguments const&, label_kind const&, LabelPoin
 // `name` is that of the label in the help.
 exit_status run(arguments const& given, char const* name, operation what, console& io) {
   auto const kind = find_label_kind(given.kind);
-  auto const& facts = labelsbase::facts_of(kind.type);
-  if (given.perfs && !counts_perforations(facts))
-    refuse("TYPE", given.kind.type, std::string{facts.name} + " does not count perforations; leave out --perfs");
-
-  label_reader labels{kind};
+  label_reader labels{kind, given.reading, io};
   label_parts label;
   if (auto const wrong = labels.read(given.label, label)) {
     io.say(refusal(name, given.label, *wrong));
@@ -111,28 +85,34 @@ exit_status run(arguments const& given, char const* name, operation what, consol
 
 command_run commands::declare_add(CLI::App& command) {
   auto const given = std::make_shared<arguments>();
+  add_perfs(command, given->perfs);
   add_label_kind(command, given->kind);
   add_required(command, "LABEL", given->label, "The label to start from");
-  add_operands(command, "N",
-               "Frames to add, negative to go back. Timecode wraps at the end of the day, key numbers and ink"
-               " numbers at the end of their count",
-               given->operands);
-  add_flag(command, "--perfs", given->perfs, "N counts perforations instead of frames");
-  add_examples(command, {"add F35 KJ1234560123+07 100", "add 30f-drop '00:00:59;29' 1",
-                         "add F353 KJ1234560000+00.1 21 --perfs"});
+  add_items(command, "N",
+            "Frames to add, negative to go back. Timecode wraps at the end of the day, key numbers and ink"
+            " numbers at the end of their count",
+            given->operands);
+  add_reading(command, given->reading);
+  add_writing(command, given->writing);
+  add_examples(command, {"add 35mm KJ1234560123+07 100", "add 29.97df '00:00:59;29' 1",
+                         "add 35mm-3p --perfs KJ1234560000+00.1 21"});
   return [given](console& io) { return run(*given, "LABEL", add, io); };
 }
 
 command_run commands::declare_diff(CLI::App& command) {
   auto const given = std::make_shared<arguments>();
+  add_perfs(command, given->perfs);
   add_label_kind(command, given->kind);
-  add_required(command, "A", given->label, "The label to subtract from");
-  add_operands(command, "B",
-               "Labels to subtract. A - B is never negative for timecode, key numbers and ink numbers: it wraps"
-               " within the day or the count. At 3 perforations a frame, key numbers wrap at 22 frames a key",
-               given->operands);
-  add_flag(command, "--perfs", given->perfs, "Show differences in perforations instead of frames");
-  add_examples(command, {"diff 25f 01:00:10:00 01:00:00:00", "diff F35 KJ1234560123+07 KJ1234560000+00"});
+  add_required(command, "A", given->label, "The label to subtract from; with --origin, the label to subtract");
+  add_items(command, "B",
+            "Labels to subtract; with --origin, to subtract from. The difference is never negative for timecode, "
+            "key numbers and ink numbers: it wraps"
+            " within the day or the count. At 3 perforations a frame, key numbers wrap at 22 frames a key",
+            given->operands);
+  add_flag(command, "--origin", given->origin, "A is the origin of all: show B - A");
+  add_reading(command, given->reading);
+  add_examples(command, {"diff 25 01:00:10:00 01:00:00:00", "diff 25 --origin 01:00:00:00 01:00:10:00 01:02:00:00",
+                         "diff 35mm KJ1234560123+07 KJ1234560000+00"});
   return [given](console& io) { return run(*given, "A", diff, io); };
 }
 

@@ -14,7 +14,7 @@ namespace {
 
 struct arguments {
   std::string type;
-  std::vector<std::string> items;
+  item_arguments items;
   pulldown_arguments across;
   std::string edit = "video";
   std::optional<std::string> frames_per_key;
@@ -31,14 +31,14 @@ struct counting {
   int key_phase;
   bool phases;
 
-  [[nodiscard]] exit_status count(std::vector<std::string> const& labels, console& io) const;
-  [[nodiscard]] exit_status count_back(std::vector<std::string> const& frames, console& io) const;
+  [[nodiscard]] exit_status count(item_arguments const& labels, console& io) const;
+  [[nodiscard]] exit_status count_back(item_arguments const& frames, console& io) const;
   [[nodiscard]] std::string key_phase_text(int found) const {
     return phases && label.has_key_phase() ? "\tkey phase " + std::to_string(found) : "";
   }
 };
 
-exit_status counting::count(std::vector<std::string> const& labels, console& io) const {
+exit_status counting::count(item_arguments const& labels, console& io) const {
   return for_each_item(labels, io, [&](std::string_view text) -> problem {
     counted_label::digits digits;
     if (auto wrong = label.read(text, key_phase, digits)) return wrong;
@@ -57,7 +57,7 @@ exit_status counting::count(std::vector<std::string> const& labels, console& io)
   });
 }
 
-exit_status counting::count_back(std::vector<std::string> const& frames, console& io) const {
+exit_status counting::count_back(item_arguments const& frames, console& io) const {
   return for_each_item(frames, io, [&](std::string_view text) -> problem {
     auto const frame = whole_number(text);
     if (!frame) return "expected a frame, a whole number; the first frame is 1";
@@ -98,8 +98,8 @@ exit_status count(arguments const& given, console& io) {
 command_run commands::declare_count(CLI::App& command) {
   auto const given = std::make_shared<arguments>();
   add_type(command, given->type);
-  add_operands(command, "LABEL", "Labels, 01:00:00:00 or 1234+07. With --back, frames; the first frame is 1",
-               given->items);
+  add_items(command, "LABEL", "Labels, 01:00:00:00 or 1234+07. With --back, frames; the first frame is 1",
+            given->items);
   add_flag(command, "--back", given->back, "Convert frames to labels");
   add_pulldown(command, given->across, "none");
   add_option(command, "--edit", "video|film [video]", given->edit, "Count video frames or film frames");

@@ -214,8 +214,13 @@ command_run commands::declare_keep(CLI::App& command) {
                          "keep 'LABEL_REV:1 pal_label 01:00:00.00 250 0.04 1 MediumRollId 20,2'"});
   return [given](console& io) {
     if (given->type) return write(*given, io);
-    return for_each_item(given->texts, io,
-                         [&io](std::string_view text) { return explain(std::string{text}, io); });
+    item_loop items{given->texts, io};
+    while (items.next()) {
+      if (items.is_blank_line()) io.results.line("");
+      if (items.is_blank_line() || items.is_refused()) continue;
+      if (auto const wrong = explain(std::string{items.text()}, io)) items.refuse(*wrong);
+    }
+    return items.status();
   };
 }
 

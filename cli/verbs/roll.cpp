@@ -14,7 +14,7 @@ namespace cli {
 namespace {
 
 struct arguments {
-  std::vector<std::string> identifiers;
+  item_arguments identifiers;
   std::optional<std::string> asked;
   bool ink = false;
 
@@ -47,7 +47,7 @@ exit_status roll(arguments const& given, console& io) {
 
 command_run commands::declare_roll(CLI::App& command) {
   auto const given = std::make_shared<arguments>();
-  add_operands(command, "IDENTIFIER", "Medium and generation, for example 28,1 or out_24p,1", given->identifiers);
+  add_items(command, "IDENTIFIER", "Medium and generation, for example 28,1 or out_24p,1", given->identifiers);
   add_option(command, "--for", "IDENTIFIER", given->asked, "Show whether each can stand in for IDENTIFIER");
   add_flag(command, "--ink", given->ink, "Read each as for ink numbers: without a generation, it is an ink roll");
   add_examples(command, {"roll 28,1 out_24p src_24p,2", "roll --for 29,1 28,1 out_24i"});

@@ -48,7 +48,7 @@ exit_status pitch(pitch_arguments const& given, console& io) {
 }
 
 struct clock_arguments {
-  std::vector<std::string> seconds;
+  item_arguments seconds;
   std::optional<std::string> project_rate;
   std::optional<std::string> output_rate;
   bool pulled_down = false;
@@ -97,8 +97,7 @@ command_run commands::declare_pitch(CLI::App& command) {
 
 command_run commands::declare_clock(CLI::App& command) {
   auto const given = std::make_shared<clock_arguments>();
-  add_operands(command, "SECONDS", "Clock time in seconds, for example 3600; with --back, cel time",
-               given->seconds);
+  add_items(command, "SECONDS", "Clock time in seconds, for example 3600; with --back, cel time", given->seconds);
   add_option(command, "--project-rate", "RATE", given->project_rate, "Frame rate of the project");
   add_option(command, "--output-rate", "RATE", given->output_rate,
              "Frame rate of the output; without it, the setting gearing-rate counts");

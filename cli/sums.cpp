@@ -1,0 +1,30 @@
+#include "cli/sums.h"
+
+#include "cli/film.h"
+
+namespace cli {
+namespace {
+
+// Whether the sum wrapped by whole runs of the count, if at all. Key numbers at 3 perforations a frame wrap as if
+// every key had 22 frames, which no film has. So a wrapped sum is not the frame that comes next on the film.
+bool wraps_by_whole_runs(labelsbase::label_facts const& facts, int sum, std::int64_t unwrapped) noexcept {
+  if (facts.film.prefix_length == 0 || sum == unwrapped) return true;
+  return (sum - unwrapped) % perfs_per_run(facts) == 0;
+}
+
+}  // namespace
+
+problem add_samples(LabelPoint const& start, std::int64_t samples, int& sum) {
+  if (!is_sample(samples) || !is_sample(start.sample + samples))
+    return "leads beyond the range of samples, -2147483648 to 2147483647";
+
+  auto const type = start.cvt()->type();
+  LabelPoint distance{type, 0};
+  distance.sample = static_cast<int>(samples);
+  sum = (start + distance).sample;
+  if (!wraps_by_whole_runs(labelsbase::facts_of(type), sum, start.sample + samples))
+    return "leads beyond the first or last key, where the labels do not go on";
+  return std::nullopt;
+}
+
+}  // namespace cli
