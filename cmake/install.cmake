@@ -6,7 +6,7 @@ include(CMakePackageConfigHelpers)
 set(labelsbase_include_dir "${CMAKE_INSTALL_INCLUDEDIR}/labelsbase-${PROJECT_VERSION_MAJOR}")
 set(labelsbase_cmake_dir "${CMAKE_INSTALL_LIBDIR}/cmake/labelsbase")
 
-install(TARGETS labelsbase_host labelsbase refhost labelcheck labelconvert
+install(TARGETS labelsbase_host labelsbase refhost refhost_library labelcheck labelconvert
         EXPORT labelsbaseTargets
         FILE_SET HEADERS DESTINATION "${labelsbase_include_dir}")
 if(LABELSBASE_TOOL)
@@ -19,3 +19,12 @@ configure_package_config_file(cmake/labelsbaseConfig.cmake.in labelsbaseConfig.c
 write_basic_package_version_file(labelsbaseConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES "${PROJECT_BINARY_DIR}/labelsbaseConfig.cmake" "${PROJECT_BINARY_DIR}/labelsbaseConfigVersion.cmake"
         DESTINATION "${labelsbase_cmake_dir}")
+
+# The same for pkg-config: labelsbase, which brings refhost, and labelcheck. Both follow the folder they are moved to.
+set(pkgconfig_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+file(RELATIVE_PATH pkgconfig_to_prefix "/${pkgconfig_dir}" "/")
+string(REGEX REPLACE "/$" "" pkgconfig_to_prefix "${pkgconfig_to_prefix}")
+foreach(package IN ITEMS labelsbase labelcheck)
+  configure_file(cmake/${package}.pc.in ${package}.pc @ONLY)
+  install(FILES "${PROJECT_BINARY_DIR}/${package}.pc" DESTINATION "${pkgconfig_dir}")
+endforeach()

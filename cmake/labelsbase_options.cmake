@@ -7,6 +7,7 @@ set(LABELSBASE_SANITIZE "" CACHE STRING "Sanitizers, as -fsanitize takes them: a
 add_library(labelsbase_options INTERFACE)
 
 target_compile_options(labelsbase_options INTERFACE
+  "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=."  # nothing that is built depends on the folder of the sources
   -Wall -Wextra -Wpedantic
   -Wcast-align -Wcast-qual -Wconversion -Wdouble-promotion -Wextra-semi -Wformat=2 -Wimplicit-fallthrough
   -Wmissing-declarations -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual -Wshadow -Wsign-conversion

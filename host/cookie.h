@@ -3,6 +3,8 @@
 
 #include <cstdint>
 
+#include "host/language.h"
+
 // An identifier of 128 bits. The library copies it and never looks inside.
 struct Cookie {
   std::uint64_t high = 0;

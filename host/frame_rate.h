@@ -6,6 +6,8 @@
 
 #include <cstdint>
 
+#include "host/language.h"
+
 namespace Kiv {
 
 // A frame rate of the host. Projects store the numeric codes, so they never change. Codes without a name here are

@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "host/language.h"
+
 namespace Kiv {
 
 // Both functions may be called from any thread.

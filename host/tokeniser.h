@@ -1,6 +1,8 @@
 // The host's splitter of texts.
 #pragma once
 
+#include "host/language.h"
+
 // Splits a text at any of a set of separator characters. A run of separators counts as one. Separators at the
 // start and at the end produce no empty tokens. The tokeniser works on a copy of the text.
 //

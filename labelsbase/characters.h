@@ -5,6 +5,8 @@
 //   is_printable(' ')    // false: "!" to "~"
 #pragma once
 
+#include "host/language.h"
+
 namespace labelsbase {
 
 [[nodiscard]] constexpr bool is_digit(char c) noexcept { return c >= '0' && c <= '9'; }

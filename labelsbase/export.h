@@ -1,6 +1,8 @@
 // What the shared library shows to the outside; everything else in it is hidden.
 #pragma once
 
+#include "host/language.h"
+
 #define LABELSBASE_API __attribute__((visibility("default")))
 
 // A private member of a class that is shown.

@@ -6,6 +6,8 @@
 //    100000002     before the start of the material               <<<.<<.<<.<<
 #pragma once
 
+#include "host/language.h"
+
 namespace labelsbase {
 
 // Samples are frames, fields or perforations, by the label type.

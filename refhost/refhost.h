@@ -18,6 +18,7 @@
 
 #include "host/config.h"
 #include "host/frame_rate.h"
+#include "host/language.h"
 #include "host/output.h"
 
 namespace refhost {

@@ -45,9 +45,9 @@ TEST_F(Tool, ConvertsLabels) {
 }
 
 TEST_F(Tool, ListsWhatTheLibraryKnows) {
-  expect({{"labels types | diff $LISTINGS/types.txt -", ""},
-          {"labels media | diff $LISTINGS/media.txt -", ""},
-          {"labels choices | diff $LISTINGS/choices.txt -", ""}});
+  expect({{"labels types | diff \"$LISTINGS/types.txt\" -", ""},
+          {"labels media | diff \"$LISTINGS/media.txt\" -", ""},
+          {"labels choices | diff \"$LISTINGS/choices.txt\" -", ""}});
 }
 
 // The first and last samples that have a label, and their neighbours that have none.

@@ -21,11 +21,11 @@ TEST(TimecodeText, IsWritten) {
 
 TEST(TimecodeText, WithoutASignColumnCountsBackFromMidnight) {
   std::set<std::string> places;
-  for (auto const& [type, text] : std::map<label_t, char const*>{
+  for (auto const& row : std::map<label_t, char const*>{
            {pal_label_t, "23:59:59.24"}, {tc_120_label_t, "23:59:59.119"}, {tc_240_label_t, "23:59:59.239"}}) {
-    LabelPoint point{type, 0};
+    LabelPoint point{row.first, 0};
     point.removePadding();
-    auto const said = said_by([&] { EXPECT_STREQ(point.cvt()->get_abs_string(&point, -1), text); });
+    auto const said = said_by([&] { EXPECT_STREQ(point.cvt()->get_abs_string(&point, -1), row.second); });
     EXPECT_TRUE(said.starts_with("assertion failed abs_sample >= 0 at labelsbase/labelcvt line ")) << said;
     EXPECT_EQ(said.find('\n'), said.size() - 1);
     places.insert(said);

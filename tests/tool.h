@@ -30,7 +30,7 @@ class Tool : public testing::Test {
  protected:
   // Runs a line with the tool on the path and the expected listings in $LISTINGS.
   outcome run(std::string const& line) const {
-    auto const script = "PATH=" LABELS_TOOL_DIR ":$PATH; LISTINGS=" LABELS_TEST_LISTINGS "; cd " + folder_ +
+    auto const script = "PATH='" LABELS_TOOL_DIR "':$PATH; LISTINGS='" LABELS_TEST_LISTINGS "'; cd " + folder_ +
                         "; { " + line + "\n} 2>err";
     FILE* const shell = popen(script.c_str(), "r");
     std::string out;

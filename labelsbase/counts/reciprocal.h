@@ -4,6 +4,8 @@
 #include <bit>
 #include <cstdint>
 
+#include "host/language.h"
+
 namespace labelsbase {
 
 // Divides by a fixed divisor from 1 up, rounding toward zero as `/` does, in one multiplication. Exact for every

@@ -4,6 +4,8 @@
 
 #include <cstdint>
 
+#include "host/language.h"
+
 // How film frames become video frames.
 enum transfer_type : std::int32_t {
   Transfer_none = 0,          // a film frame is a video frame

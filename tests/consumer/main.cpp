@@ -1,9 +1,12 @@
-// The timecode of frame 90000 at 25 frames a second, by the installed package.
+// The timecode of frame 90000 at 25 frames a second, by the installed package, and back.
 #include <cstdio>
+#include <string>
 
-#include "labelsbase/labels.h"
+std::string shown(int sample);
+int checked(char const* label);
 
 int main() {
-  LabelPoint point{pal_label_t, 90000};
-  std::puts(point.get_string());
+  auto const label = shown(90000);
+  std::puts(label.c_str());
+  return label == " 01:00:00.00" && checked("01:00:00.00") == 90000 ? 0 : 1;
 }

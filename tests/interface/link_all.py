@@ -3,6 +3,8 @@
 
     link_all.py --work DIR --compiler "c++ -I..." --link "LIBRARY ..." HEADER...
 
+Quote a name with blanks as the shell does.
+
 The names come from clang's syntax tree, so a new declaration is held to this without a line here. Asks for every
 function that the headers only declare, public or protected, and for the free functions of the interface (those
 outside any namespace) even where the header defines them: a host may look them up by name. Templates and members
@@ -13,6 +15,7 @@ Exits with 77 if clang++ is missing.
 import argparse
 import json
 import pathlib
+import shlex
 import shutil
 import subprocess
 import sys
@@ -64,8 +67,8 @@ def collect(declaration, declared, defined, scope=()):
 def main():
     options = argparse.ArgumentParser()
     options.add_argument('--work', type=pathlib.Path)
-    options.add_argument('--compiler', type=str.split)
-    options.add_argument('--link', type=str.split)
+    options.add_argument('--compiler', type=shlex.split)
+    options.add_argument('--link', type=shlex.split)
     options.add_argument('headers', nargs='+')
     options = options.parse_args()
 
