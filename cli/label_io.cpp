@@ -1,16 +1,14 @@
 #include "cli/label_io.h"
 
 #include <algorithm>
-#include <limits>
 #include <stdexcept>
 
 #include "cli/arguments.h"
 #include "cli/console.h"
-#include "cli/film.h"
 #include "cli/names.h"
 #include "cli/short_entry.h"
-#include "cli/sums.h"
 #include "cli/text.h"
+#include "labelcheck/sums.h"
 #include "labelsbase/characters.h"
 
 namespace cli {
@@ -41,36 +39,6 @@ char const* kind_of_separator(char separator) noexcept {
     default:
       return "timecode without drop-frame";
   }
-}
-
-// Timecode covers a day, and without drop-frame the day before it. The host's setting may count two samples a
-// frame.
-sample_range range_of_timecode(labelsbase::label_facts const& facts) {
-  auto const& converter = *get_static_label_cvt(facts.type)->as_timecode();
-  auto const last = std::int64_t{converter.samples_per_day()} * (converter.isSpecialSlowTC() ? 2 : 1) - 1;
-  return {facts.timecode.drop_frame ? 0 : -last, last};
-}
-
-// Film labels run through their count twice: after the last one they start again at 0, but only once. Feet may be
-// negative; keys and ink numbers begin at 0.
-sample_range range_of(labelsbase::label_facts const& facts) {
-  if (facts.is_timecode()) return range_of_timecode(facts);
-  if (!counts_perforations(facts))
-    return {std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()};
-
-  auto const run = perfs_per_run(facts);
-  auto const& gauge = facts.film.gauge;
-  bool const is_feet = facts.family == User_feet;
-  if (gauge.has_whole_frames()) {
-    auto const last = 2 * run - 1;
-    return is_feet ? sample_range{-last, last, run, gauge.perfs_per_frame()} : sample_range{0, last};
-  }
-
-  // At 3 perforations a frame, frame 0 begins before its key or foot, and foot 100000 does not start again at 0.
-  int const before_count = gauge.perfs_per_frame() - 1;
-  auto const last = 2 * run - 1 - before_count;
-  auto const last_feet = last + gauge.perfs_per_count();
-  return is_feet ? sample_range{-last_feet, last_feet} : sample_range{-before_count, last};
 }
 
 }  // namespace
@@ -167,7 +135,10 @@ problem label_reader::read_entry(std::string_view text, label_parts& out) {
   whole_.assign(converter.get_dummy_prefix()).append(entry->label);
   std::int64_t const distance = converter.get_abs_sample(whole_.c_str());
   out.prefix = at_->prefix;
-  return add_samples(*at_, entry->sign == '-' ? -distance : distance, out.sample);
+  auto const [sum, wrong] = labelcheck::add_samples(*at_, entry->sign == '-' ? -distance : distance);
+  if (wrong) return wrong;
+  out.sample = sum;
+  return std::nullopt;
 }
 
 problem label_reader::read_full(std::string_view text, label_parts& out) {
@@ -256,12 +227,8 @@ label_style find_label_style(writing_arguments const& given) {
   refuse("--style", given.style, "expected own or exchange");
 }
 
-bool sample_range::is_negative_zero(std::int64_t sample) const noexcept {
-  return sample < 0 && feet_run > 0 && -sample % feet_run < frame_samples;
-}
-
 label_writer::label_writer(label_kind const& kind, label_style style)
-    : negative_{kind.type, 0}, positive_{kind.type, 0}, range_{range_of(facts_of(kind.type))} {
+    : negative_{kind.type, 0}, positive_{kind.type, 0}, range_{labelcheck::range_of(kind.type)} {
   auto const& timecode = facts_of(kind.type).timecode;
   bool const is_respelt =
       style == label_style::exchange && facts_of(kind.type).is_timecode() && !timecode.drop_frame;
@@ -272,22 +239,13 @@ label_writer::label_writer(label_kind const& kind, label_style style)
 }
 
 problem label_writer::write(int sample, std::string_view& label) {
-  bool const is_covered = sample >= range_.first && sample <= range_.last;
-  if (!is_covered || range_.is_negative_zero(sample) || labelsbase::is_special_sample(sample))
-    return missing_label(sample);
+  if (!range_.has_label(sample)) return labelcheck::explain_missing(positive_.cvt()->type(), sample);
   auto& point = sample < 0 ? negative_ : positive_;
   point.sample = sample;
   label = point.get_string();
   if (label.starts_with(' ')) label.remove_prefix(1);  // 3-perf feet always have the sign column
   if (exchange_digits_ > 0) point.text[label.size() - exchange_digits_ - 1] = ':';
   return std::nullopt;
-}
-
-problem label_writer::missing_label(int sample) const {
-  if (range_.is_negative_zero(sample)) return "has no label, since it would be -0000+00, and zero has no sign";
-  if (labelsbase::is_special_sample(sample)) return "has no label, since the number is reserved";
-  return std::string{"has no label; "} + positive_.cvt()->type_str() + " covers samples " +
-         std::to_string(range_.first) + " to " + std::to_string(range_.last);
 }
 
 void set_prefix(LabelPoint& point, std::string_view prefix) noexcept {
@@ -302,7 +260,7 @@ void add_perfs(CLI::App& command, bool& perfs) {
 
 int samples_per_count(label_kind const& kind, bool perfs) {
   auto const& facts = facts_of(kind.type);
-  if (perfs && !counts_perforations(facts))
+  if (perfs && !labelcheck::counts_perforations(facts))
     throw std::runtime_error{std::string{"--perfs: "} + facts.name +
                              " does not count perforations; leave out --perfs"};
   return perfs ? 1 : facts.samples_per_frame();

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,6 +9,7 @@
 #include "cli/console.h"
 #include "cli/input.h"
 #include "host/frame_rate.h"
+#include "labelcheck/range.h"
 #include "labelcheck/read.h"
 #include "labelsbase/labels.h"
 
@@ -119,16 +119,6 @@ void add_writing(CLI::App& command, writing_arguments& given);
 // Refuses any other style.
 [[nodiscard]] label_style find_label_style(writing_arguments const& given);
 
-// The samples that labels of a type can express.
-struct sample_range {
-  std::int64_t first, last;
-  std::int64_t feet_run = 0;  // samples after which feet of whole frames start again at 0; 0 for other types
-  int frame_samples = 1;      // samples of a frame
-
-  // Whether the label would be "-0000+00": zero has no sign.
-  [[nodiscard]] bool is_negative_zero(std::int64_t sample) const noexcept;
-};
-
 // Writes samples as labels. Positive labels have no sign column.
 class label_writer {
  public:
@@ -138,11 +128,9 @@ class label_writer {
   [[nodiscard]] problem write(int sample, std::string_view& label);
 
  private:
-  [[nodiscard]] problem missing_label(int sample) const;
-
   LabelPoint negative_;
   LabelPoint positive_;
-  sample_range range_;
+  labelcheck::sample_range range_;
   std::size_t exchange_digits_;  // behind the separator that exchange style replaces; 0 for other styles
 };
 

@@ -7,8 +7,8 @@
 #include "cli/commands.h"
 #include "cli/input.h"
 #include "cli/label_io.h"
-#include "cli/sums.h"
 #include "cli/text.h"
+#include "labelcheck/sums.h"
 
 namespace cli {
 namespace {
@@ -30,8 +30,8 @@ exit_status add(arguments const& given, label_kind const& kind, LabelPoint const
   return for_each_item(given.operands, io, [&](std::string_view text) -> problem {
     auto const amount = signed_number(text);
     if (!amount) return std::string{"expected a whole number of "} + (given.perfs ? "perforations" : "frames");
-    int sum = 0;
-    if (auto wrong = add_samples(start, std::int64_t{*amount} * unit, sum)) return wrong;
+    auto const [sum, unsummed] = labelcheck::add_samples(start, std::int64_t{*amount} * unit);
+    if (unsummed) return unsummed;
 
     std::string_view label;
     if (auto wrong = labels.write(sum, label))
@@ -51,7 +51,8 @@ exit_status diff(arguments const& given, label_kind const& kind, LabelPoint cons
     if (auto wrong = labels.read(text, label)) return wrong;
     if (label.prefix != a.prefix)
       return std::string{"the prefix is "}.append(label.prefix) + ", from another roll than " + a.prefix;
-    if (!is_sample(std::int64_t{a.sample} - label.sample) || !is_sample(std::int64_t{label.sample} - a.sample))
+    if (!labelcheck::is_sample(std::int64_t{a.sample} - label.sample) ||
+        !labelcheck::is_sample(std::int64_t{label.sample} - a.sample))
       return "the difference is beyond the range of samples, -2147483648 to 2147483647";
 
     b.sample = label.sample;

@@ -7,8 +7,8 @@
 #include "cli/commands.h"
 #include "cli/input.h"
 #include "cli/label_io.h"
-#include "cli/sums.h"
 #include "cli/text.h"
+#include "labelcheck/sums.h"
 
 namespace cli {
 namespace {
@@ -32,7 +32,8 @@ exit_status show(arguments const& given, console& io) {
       return std::string{"expected "} + (given.perfs ? "perforations" : "frames") +
              ", a whole number from -2147483648 to 2147483647";
     auto const sample = std::int64_t{*count} * unit;
-    if (!is_sample(sample)) return "has no label: it is beyond the range of samples, -2147483648 to 2147483647";
+    if (!labelcheck::is_sample(sample))
+      return "has no label: it is beyond the range of samples, -2147483648 to 2147483647";
     std::string_view label;
     if (auto wrong = labels.write(static_cast<int>(sample), label)) return wrong;
     io.results.line(label);

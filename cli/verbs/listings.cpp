@@ -6,9 +6,9 @@
 
 #include "cli/arguments.h"
 #include "cli/commands.h"
-#include "cli/film.h"
 #include "cli/names.h"
 #include "cli/records.h"
+#include "labelcheck/range.h"
 #include "labelsbase/MediumRoll.h"
 #include "labelsbase/uiflabels.h"
 
@@ -51,7 +51,7 @@ exit_status types(arguments const& given, console& io) {
   for (auto const& facts : labelsbase::all_label_facts) {
     if (!*facts.name) continue;
     auto& converter = *get_static_label_cvt(facts.type);
-    bool const has_perfs = facts.is_film() && counts_perforations(facts);
+    bool const has_perfs = facts.is_film() && labelcheck::counts_perforations(facts);
     auto const& gauge = facts.film.gauge;
     auto const number = [](bool applies, int count) { return applies ? value{count} : missing; };
     records.write({

@@ -1,8 +1,9 @@
-#include "cli/sums.h"
+#include "labelcheck/sums.h"
 
-#include "cli/film.h"
+#include "labelcheck/range.h"
+#include "labelsbase/labelcvt/label_cvt.h"
 
-namespace cli {
+namespace labelcheck {
 namespace {
 
 // Whether the sum wrapped by whole runs of the count, if at all. Key numbers at 3 perforations a frame wrap as if
@@ -14,17 +15,17 @@ bool wraps_by_whole_runs(labelsbase::label_facts const& facts, int sum, std::int
 
 }  // namespace
 
-problem add_samples(LabelPoint const& start, std::int64_t samples, int& sum) {
+sum add_samples(LabelPoint const& start, std::int64_t samples) {
   if (!is_sample(samples) || !is_sample(start.sample + samples))
-    return "leads beyond the range of samples, -2147483648 to 2147483647";
+    return {0, "leads beyond the range of samples, -2147483648 to 2147483647"};
 
   auto const type = start.cvt()->type();
   LabelPoint distance{type, 0};
   distance.sample = static_cast<int>(samples);
-  sum = (start + distance).sample;
-  if (!wraps_by_whole_runs(labelsbase::facts_of(type), sum, start.sample + samples))
-    return "leads beyond the first or last key, where the labels do not go on";
-  return std::nullopt;
+  int const sample = (start + distance).sample;
+  if (!wraps_by_whole_runs(labelsbase::facts_of(type), sample, start.sample + samples))
+    return {sample, "leads beyond the first or last key, where the labels do not go on"};
+  return {sample, nullptr};
 }
 
-}  // namespace cli
+}  // namespace labelcheck
