@@ -19,6 +19,7 @@ class App;
   row(read,    "Convert labels to frames")                                             \
   row(add,     "Add frames to a label")                                                 \
   row(diff,    "Subtract labels from a label, in frames")                               \
+  row(check,   "Check decision lists, logs and sheets")                                  \
   row(keep,    "Explain or write keep strings, the text form in which hosts store labels") \
   row(count,   "Count film or video frames, across a pulldown if there is one")         \
   row(cadence, "Show which film frame each video frame of a pulldown comes from")       \

@@ -57,6 +57,10 @@ constexpr std::array texts{
     "0x1.8p+1023",
     "LABEL_REV:1 pal_label  01:00:00.00 250 0.0400000000 1 MediumRollId 15,2",
     "LABEL_REV:2 keycode_35_label KJ1234560123+07 2 0.0416666667 -2",
+    "FCM: DROP FRAME\r\n001 R1 V C 01:00:59:20 01:01:00:10 00:00:00:00 00:00:00:18\r\n"
+    "002 R 2 AA/V D 012 01:00:00;00 01:00:01;00 00:00:00;18 00:00:01;18 \r\nM2 R 2 -015.0 01:00:00;00\r\n",
+    "Heading\nFPS\t24\n\nColumn\nName\tStart\tEnd\tDuration\n\nData\na\t01:00:00:00\t01:00:01:00\t00:00:01:00\n",
+    "Clip,\"In\",Out,Rec In,Rec Out,Tracks\n\"a,\n\"\"b\",01:00:00:00,01:00:01:00,23:59:59:00,00:00:00:00,B\n",
 };
 
 class drawing {

@@ -1,0 +1,73 @@
+// Reads any bytes as a list. The lines must be the bytes that were read; findings must point into them; and the
+// same list must be found in pieces of any size.
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <vector>
+
+#include "fuzz/fuzz_input.h"
+#include "lists/check.h"
+
+extern int const fuzz_numbers = 1;
+
+namespace {
+
+// A file in memory, read from its beginning.
+class text_file {
+ public:
+  explicit text_file(std::string const& text) : fd_{memfd_create("list", 0)} {
+    auto const written = pwrite(fd_, text.data(), text.size(), 0);
+    demand(written == static_cast<ssize_t>(text.size()), "the text is written", text);
+  }
+  text_file(text_file const&) = delete;
+  text_file& operator=(text_file const&) = delete;
+  ~text_file() { close(fd_); }
+  [[nodiscard]] int fd() const { return fd_; }
+
+ private:
+  int fd_;
+};
+
+// Returns the characters of each line, and demands that the lines are the text.
+std::vector<std::size_t> line_lengths(std::string const& text) {
+  text_file const file{text};
+  lists::line_reader lines{file.fd()};
+  std::vector<std::size_t> lengths;
+  std::string all;
+  while (auto const next = lines.next()) {
+    all.append(next->mark).append(next->text).append(next->end);
+    lengths.resize(static_cast<std::size_t>(next->number));
+    lengths.back() = column_of(*next, next->text.size());
+  }
+  demand(all == text, "the lines are the bytes that were read", text);
+  return lengths;
+}
+
+}  // namespace
+
+int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
+  constexpr char const* rates[] = {"", "24", "25", "29.97df", "60"};
+  fuzz_input input{data, size};
+  std::string const rate = rates[input.number<std::uint32_t>() % std::size(rates)];
+  auto const text = input.rest();
+  auto const lengths = line_lengths(text);
+
+  text_file const file{text};
+  lists::line_reader lines{file.fd()};
+  std::int64_t found = 0;
+  lists::check_handlers handlers;
+  handlers.found = [&](lists::finding const& what) {
+    ++found;
+    bool const has_line = what.line >= 1 && what.line <= static_cast<std::int64_t>(lengths.size());
+    demand(has_line, "a finding has a line", text);
+    bool const has_column = what.column >= 1 && what.column <= lengths[static_cast<std::size_t>(what.line - 1)];
+    demand(has_column, "a finding has a column", text);
+  };
+  handlers.measured = [&](lists::event_length const& length) {
+    demand(length.frames >= 0, "no length is negative", text);
+  };
+  auto const result = lists::check_list(lines, {rate.empty() ? std::nullopt : labelnames::find(rate)}, handlers);
+  demand(result.findings == found, "every finding is counted", text);
+  return 0;
+}
