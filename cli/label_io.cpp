@@ -227,27 +227,6 @@ label_style find_label_style(writing_arguments const& given) {
   refuse("--style", given.style, "expected own or exchange");
 }
 
-label_writer::label_writer(label_kind const& kind, label_style style)
-    : negative_{kind.type, 0}, positive_{kind.type, 0}, range_{labelcheck::range_of(kind.type)} {
-  auto const& timecode = facts_of(kind.type).timecode;
-  bool const is_respelt =
-      style == label_style::exchange && facts_of(kind.type).is_timecode() && !timecode.drop_frame;
-  exchange_digits_ = is_respelt ? static_cast<std::size_t>(timecode.frame_digits()) : 0;
-  positive_.removePadding();
-  set_prefix(negative_, kind.prefix);
-  set_prefix(positive_, kind.prefix);
-}
-
-problem label_writer::write(int sample, std::string_view& label) {
-  if (!range_.has_label(sample)) return labelcheck::explain_missing(positive_.cvt()->type(), sample);
-  auto& point = sample < 0 ? negative_ : positive_;
-  point.sample = sample;
-  label = point.get_string();
-  if (label.starts_with(' ')) label.remove_prefix(1);  // 3-perf feet always have the sign column
-  if (exchange_digits_ > 0) point.text[label.size() - exchange_digits_ - 1] = ':';
-  return std::nullopt;
-}
-
 void set_prefix(LabelPoint& point, std::string_view prefix) noexcept {
   point.prefix[prefix.copy(point.prefix, LabelPoint::prefix_length)] = '\0';
 }

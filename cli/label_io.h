@@ -11,6 +11,7 @@
 #include "host/frame_rate.h"
 #include "labelcheck/range.h"
 #include "labelcheck/read.h"
+#include "labelcheck/write.h"
 #include "labelsbase/labels.h"
 
 namespace CLI {
@@ -109,10 +110,7 @@ struct writing_arguments {
   std::string style = "own";
 };
 
-enum class label_style {
-  own,       // as the type writes it: "01:00:00.00", "01:00:00;00" and "01:00:00+00"
-  exchange,  // timecode as other systems write it: ":" before the frames, ";" for drop-frame only
-};
+using labelcheck::label_style;
 
 void add_writing(CLI::App& command, writing_arguments& given);
 
@@ -122,16 +120,18 @@ void add_writing(CLI::App& command, writing_arguments& given);
 // Writes samples as labels. Positive labels have no sign column.
 class label_writer {
  public:
-  explicit label_writer(label_kind const& kind, label_style style = label_style::own);
+  explicit label_writer(label_kind const& kind, label_style style = label_style::own)
+      : type_{kind.type}, labels_{kind.type, kind.prefix, style} {}
 
   // Writes the label of a sample, or returns why it has none. The label is valid until the next call.
-  [[nodiscard]] problem write(int sample, std::string_view& label);
+  [[nodiscard]] problem write(int sample, std::string_view& label) {
+    label = labels_.write(sample);
+    return label.empty() ? problem{labelcheck::explain_missing(type_, sample)} : std::nullopt;
+  }
 
  private:
-  LabelPoint negative_;
-  LabelPoint positive_;
-  labelcheck::sample_range range_;
-  std::size_t exchange_digits_;  // behind the separator that exchange style replaces; 0 for other styles
+  label_t type_;
+  labelcheck::writer labels_;
 };
 
 // Copies a prefix into the point; the part that does not fit is left out.

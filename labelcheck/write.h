@@ -1,0 +1,41 @@
+// Writes the labels that read.h reads.
+//
+//   labelcheck::writer drop{ntsc_drop_label_t};
+//   drop.write(1800)                            // "00:01:00;02"
+//   labelcheck::writer key{keycode_35_label_t, "KJ123456"};
+//   key.write(64)                               // "KJ1234560001+00"
+//   key.write(-1)                               // "": range.h says which samples have labels, and why others do
+//   not
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+#include "labelcheck/range.h"
+#include "labelsbase/labelcvt/label_point.h"
+
+namespace labelcheck {
+
+enum class label_style {
+  own,       // as the type writes it: "01:00:00.00", "01:00:00;00" and "01:00:00+00"
+  exchange,  // timecode as other systems write it: ":" before the frames, ";" for drop-frame only
+};
+
+// Writes samples as labels, without a sign column before labels of 0 and more.
+class writer {
+ public:
+  // The prefix is for key numbers and ink numbers; without one, they have the prefix of unknown film, "XX000000".
+  // What exceeds LabelPoint::prefix_length is left out.
+  explicit writer(label_t type, std::string_view prefix = "", label_style style = label_style::own);
+
+  // Returns the label of a sample, or an empty text if it has none. Valid until the next call. Allocates nothing.
+  [[nodiscard]] std::string_view write(int sample);
+
+ private:
+  LabelPoint negative_;
+  LabelPoint positive_;
+  sample_range range_;
+  std::size_t exchange_digits_;  // behind the separator that exchange style replaces; 0 for other styles
+};
+
+}  // namespace labelcheck
