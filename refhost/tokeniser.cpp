@@ -1,36 +1,61 @@
 #include "host/tokeniser.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstring>
 #include <new>
-#include <string_view>
 
 #include "host/os.h"
 
-// One block of the host's memory: the state, then a copy of the text with a terminator in place of each separator.
+namespace {
+
+// A block for the thread's tokenisers, one at a time: keep strings and stored rolls need no memory of the
+// allocator.
+alignas(std::max_align_t) constinit thread_local char thread_block[1024];
+constinit thread_local bool thread_block_taken = false;
+
+}  // namespace
+
+// The state stands in front of a copy of the text, in one block. In the copy, the first separator stands for all,
+// and one more follows the text: every token ends at it.
 struct tokeniser::state {
-  char const* at;
-  char const* end;
+  char* rest;
+  char* end;
+  bool* taken;  // what to clear when the block is free again; null for a block of the allocator
+  char separator;
 };
 
 tokeniser::tokeniser(char const* text, char const* separators) {
-  std::string_view const source{text};
-  std::string_view const separator_set{separators};
-  void* block = OS().allocator().allocate(sizeof(state) + source.size() + 1);
+  std::size_t const size = std::strlen(text);
+  std::size_t const bytes = sizeof(state) + size + 1;
+  bool const fits = bytes <= sizeof thread_block && !thread_block_taken;
+  void* block = fits ? thread_block : OS().allocator().allocate(bytes);
   if (!block) return;
+  if (fits) thread_block_taken = true;
 
-  char* copy = static_cast<char*>(block) + sizeof(state);
-  std::ranges::replace_copy_if(
-      source, copy, [&](char c) { return separator_set.find(c) != std::string_view::npos; }, '\0');
-  copy[source.size()] = '\0';
-  state_ = new (block) state{copy, copy + source.size()};
+  auto* const copy = static_cast<char*>(block) + sizeof(state);
+  std::memcpy(copy, text, size);
+  copy[size] = *separators;
+  for (char const* other = separators; *other; ++other)
+    if (other != separators) std::replace(copy, copy + size, *other, *separators);
+  state_ = new (block) state{copy, copy + size + 1, fits ? &thread_block_taken : nullptr, *separators};
 }
 
-tokeniser::~tokeniser() { OS().allocator().free(state_); }
+tokeniser::~tokeniser() {
+  if (state_ && state_->taken)
+    *state_->taken = false;
+  else
+    OS().allocator().free(state_);
+}
 
 char const* tokeniser::next() {
   if (!state_) return nullptr;
-  char const* token = std::find_if(state_->at, state_->end, [](char c) { return c != '\0'; });
-  state_->at = token + std::strlen(token);
-  return token == state_->end ? nullptr : token;
+  auto const [rest, end, taken, separator] = *state_;
+  char* token = rest;
+  while (token != end && *token == separator) ++token;
+  if (token == end) return nullptr;
+  auto* const stop = static_cast<char*>(std::memchr(token, separator, static_cast<std::size_t>(end - token)));
+  *stop = '\0';
+  state_->rest = stop + 1;
+  return token;
 }

@@ -92,6 +92,21 @@ TEST(Tokeniser, SplitsAtRunsOfSeparators) {
   EXPECT_EQ(refhost::allocator_statistics().live_blocks, before.live_blocks);
 }
 
+TEST(Tokeniser, AllocatesOnlyWhatOneKeepStringDoesNotNeed) {
+  auto const before = refhost::allocator_statistics();
+  tokeniser outer{"LABEL_REV:1 pal_label 01:00:00.00 250 0.0400000000 1", " "};
+  EXPECT_STREQ(outer.next(), "LABEL_REV:1");
+  EXPECT_EQ(refhost::allocator_statistics(), before);
+  {
+    std::string const word(5'000, 'x');
+    tokeniser nested{"a b", " "}, longer{word.c_str(), " "};
+    EXPECT_STREQ(nested.next(), "a");
+    EXPECT_EQ(longer.next(), word);
+  }
+  EXPECT_STREQ(outer.next(), "pal_label");
+  EXPECT_EQ(refhost::allocator_statistics().live_blocks, before.live_blocks);
+}
+
 TEST(Allocator, CountsBlocks) {
   auto& allocator = OS().allocator();
   auto const before = refhost::allocator_statistics();
