@@ -2,6 +2,7 @@
 
 #include "labelsbase/support/text.h"
 #include "labelsbase/counts/reciprocal.h"
+#include "labelsbase/support/doubles.h"
 #include "tests/testing.h"
 
 namespace {
@@ -29,6 +30,21 @@ TEST(TextWriter, WritesNumbersAsPrintfDoes) {
     char expected[32], written[32];
     std::snprintf(expected, sizeof expected, "%0*d", width, value);
     text_writer{written}.number(value, width);
+    ASSERT_STREQ(written, expected);
+  }
+}
+
+TEST(TextWriter, WritesDoublesAsPrintfDoes) {
+  std::mt19937_64 random{3};
+  for (int i = 0; i < 30'000; ++i) {
+    auto const mantissa = static_cast<double>(random() >> (random() % 60));
+    double const values[] = {std::bit_cast<double>(random() & ~(1ULL << 60)), std::ldexp(mantissa, -11),
+                             std::ldexp(mantissa, -static_cast<int>(random() % 90))};
+    double const value = values[i % 3];  // the second kind lies halfway between two tenth decimals
+    char expected[352], written[352];
+    std::snprintf(expected, sizeof expected, "%.10f", value);
+    text_writer out{written};
+    labelsbase::put_fixed(out, value);
     ASSERT_STREQ(written, expected);
   }
 }

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 
 namespace labelsbase {
@@ -34,7 +35,7 @@ inline void put_digits(char* out, unsigned value, int digits) noexcept {
 // Returns how many digits a number has; 1 for 0.
 [[nodiscard]] constexpr int digits_in(unsigned value) noexcept {
   int digits = 1;
-  for (; value >= 10; value /= 10) ++digits;
+  for (std::uint64_t power = 10; value >= power; power *= 10) ++digits;
   return digits;
 }
 

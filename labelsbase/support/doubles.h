@@ -2,22 +2,61 @@
 #pragma once
 
 #include <algorithm>
+#include <bit>
 #include <charconv>
 #include <cstdint>
 #include <cstring>
 #include <limits>
+#include <optional>
+#include <string_view>
 #include <system_error>
 
 #include "labelsbase/support/text.h"
 
 namespace labelsbase {
 
-// Writes a double as "%.10f" does in the "C" locale.
-inline text_writer& put_fixed(text_writer& out, double value) noexcept {
-  char digits[352];  // more than the largest double has
-  auto const end = std::to_chars(digits, digits + sizeof digits - 1, value, std::chars_format::fixed, 10).ptr;
-  *end = '\0';
-  return out.put(digits);
+// Units of the tenth decimal in 1.
+inline constexpr std::uint64_t ten_decimals = 10'000'000'000;
+
+// Returns a double in units of its tenth decimal, rounded to nearest, ties to even. Exact: a double is an integer
+// times a power of two. Returns nothing outside 2^-11 to 2^29, where 64 bits do not hold the units or the rest.
+[[nodiscard]] constexpr std::optional<std::uint64_t> in_ten_decimals(double value) noexcept {
+  __extension__ using wide = unsigned __int128;
+  constexpr int mantissa_bits = 52;
+  constexpr auto hidden_bit = std::uint64_t{1} << mantissa_bits;
+  auto const bits = std::bit_cast<std::uint64_t>(value);
+  auto const halvings = 1075 - static_cast<int>(bits >> mantissa_bits);  // below zero if the sign is set
+  if (halvings < 24 || halvings > 63) return {};
+
+  wide const product = wide{(bits & (hidden_bit - 1)) | hidden_bit} * ten_decimals;
+  auto const units = static_cast<std::uint64_t>(product >> halvings);
+  auto const one_unit = std::uint64_t{1} << halvings;
+  auto const rest = static_cast<std::uint64_t>(product) & (one_unit - 1);
+  bool const rounds_up = rest + (units & 1) > one_unit / 2;
+  return units + rounds_up;
+}
+
+// Holds the largest double with ten decimals.
+using fixed_text = char[352];
+
+// Returns the digits of any double as "%.10f" writes them.
+[[nodiscard, gnu::noinline]] inline std::string_view fixed_digits(fixed_text& text, double value) noexcept {
+  auto const end = std::to_chars(text, text + sizeof text, value, std::chars_format::fixed, 10).ptr;
+  return {text, static_cast<std::size_t>(end - text)};
+}
+
+// Writes a double as "%.10f" does in the "C" locale. Inlined by force, so that the writer stays in registers
+// (write_keep_string).
+[[gnu::always_inline]] inline text_writer& put_fixed(text_writer& out, double value) noexcept {
+  if (auto const units = in_ten_decimals(value)) {
+    auto const fraction = *units % ten_decimals;
+    char decimals[11] = {'.'};
+    put_pair(decimals + 1, static_cast<int>(fraction / 100'000'000));
+    put_digits(decimals + 3, static_cast<unsigned>(fraction % 100'000'000), 8);
+    return out.number(static_cast<int>(*units / ten_decimals)).put(std::string_view{decimals, sizeof decimals});
+  }
+  fixed_text text;
+  return out.put(fixed_digits(text, value));
 }
 
 [[nodiscard]] constexpr bool is_hex_digit(char c) noexcept {
@@ -81,15 +120,10 @@ struct number_part {
   return {end, places * form.digit_weight + exponent};
 }
 
-// Reads a double as strtod does in the "C" locale, correctly rounded. Returns 0 if the text does not begin with a
-// number; an infinity for a number that is too large, and 0 for one that is too small.
+// Reads any number behind its sign, as strtod does.
 //
-//   blanks [+|-] ( decimal | 0x hexadecimal | inf | infinity | nan ), in any case
-[[nodiscard]] inline double read_double(char const* text) noexcept {
-  while (is_blank(*text)) ++text;
-  bool const is_negative = *text == '-';
-  if (is_negative || *text == '+') ++text;
-
+//   decimal | 0x hexadecimal | inf | infinity | nan
+[[nodiscard, gnu::noinline]] inline double read_any_number(char const* text, bool is_negative) noexcept {
   auto const* form = &decimal_form;
   auto number = find_number(text, decimal_form);
   if (text[0] == '0' && to_upper(text[1]) == 'X') {
@@ -112,6 +146,36 @@ struct number_part {
   if (error == std::errc::invalid_argument) return 0.0;
   if (error == std::errc::result_out_of_range)
     value = number.exponent > 0 ? std::numeric_limits<double>::infinity() : 0.0;
+  return is_negative ? -value : value;
+}
+
+inline constexpr double powers_of_ten[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6, 1e7,
+                                           1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14};
+
+// Reads a double as strtod does in the "C" locale, correctly rounded. Returns 0 if the text does not begin with a
+// number; an infinity for a number that is too large, and 0 for one that is too small.
+//
+//   blanks [+|-] ( decimal | 0x hexadecimal | inf | infinity | nan ), in any case
+[[nodiscard]] inline double read_double(char const* text) noexcept {
+  while (is_blank(*text)) ++text;
+  bool const is_negative = *text == '-';
+  if (is_negative || *text == '+') ++text;
+
+  // Nearly every number is digits [. digits] in up to 15 characters. Doubles hold such digits and such a power of
+  // ten exactly, so their quotient is correctly rounded.
+  char const* next = text;
+  std::uint64_t digits = 0;
+  auto const take_digits = [&] {
+    for (unsigned digit; (digit = digit_value(*next)) < 10; ++next) digits = digits * 10 + digit;
+  };
+  take_digits();
+  bool const has_digits = next != text;
+  if (*next == '.') ++next;
+  char const* const fraction = next;
+  take_digits();
+  char const after = to_upper(*next);
+  if (!has_digits || next - text > 15 || after == 'E' || after == 'X') return read_any_number(text, is_negative);
+  double const value = static_cast<double>(static_cast<std::int64_t>(digits)) / powers_of_ten[next - fraction];
   return is_negative ? -value : value;
 }
 

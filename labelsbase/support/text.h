@@ -36,15 +36,19 @@ class text_writer {
   }
 
   constexpr text_writer& put(std::string_view text) noexcept {
-    char* to = next_;
-    for (char const c : text.substr(0, static_cast<std::size_t>(last_ - to))) *to++ = c;
-    *to = '\0';
-    next_ = to;
+    // Two copies: most texts are literals, and the size of the first copy is then a constant.
+    auto const room = static_cast<std::size_t>(last_ - next_);
+    if (text.size() <= room)
+      next_ = std::copy_n(text.data(), text.size(), next_);
+    else
+      next_ = std::copy_n(text.data(), room, next_);
+    *next_ = '\0';
     return *this;
   }
 
   // Writes a number as "%0*d" does: at least `width` characters, the sign included.
   text_writer& number(int value, int width = 0) noexcept {
+    if (width <= 1 && value >= 0 && value < 10) return put(static_cast<char>('0' + value));
     return signed_digits(value, value < 0 ? std::max(width, 1) - 1 : width);
   }
 
@@ -66,6 +70,9 @@ class text_writer {
   }
 
   [[nodiscard]] constexpr char const* c_str() const noexcept { return begin_; }
+
+  // Returns where the next character goes.
+  [[nodiscard]] constexpr char* end() const noexcept { return next_; }
   [[nodiscard]] constexpr std::size_t length() const noexcept { return static_cast<std::size_t>(next_ - begin_); }
 
  private:
@@ -93,15 +100,12 @@ class text_reader {
     }
     if (width <= 0 || !is_digit(*next_)) return {};
 
+    // A number from 2^63 / 10 up stays too large with any further digit.
     constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
-    constexpr std::uint64_t always_fits = largest / 10 - 1;
-    std::uint64_t const limit = negative ? largest + 1 : largest;
-    std::uint64_t value = 0;
-    for (; width > 0 && is_digit(*next_); --width, ++next_) {
-      auto const digit = static_cast<std::uint64_t>(*next_ - '0');
-      bool const fits = value <= always_fits || value <= (limit - digit) / 10;
-      value = fits ? value * 10 + digit : limit;
-    }
+    std::uint64_t value = digit_value(*next_++);
+    for (unsigned digit; --width > 0 && (digit = digit_value(*next_)) < 10; ++next_)
+      value = std::min(value, largest / 10 + 1) * 10 + digit;
+    value = std::min(value, negative ? largest + 1 : largest);
     return wrap_to_int(negative ? 0 - value : value);
   }
 
