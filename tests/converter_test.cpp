@@ -23,7 +23,7 @@ TEST(Registry, HoldsTheClassOfEveryType) {
 
 TEST(Registry, FindsNamesInExactCase) {
   for (char const* name :
-       std::initializer_list<char const*>{"TC_60_LABEL", "keycode_label", "tc_60_labels", nullptr})
+       std::initializer_list<char const*>{"TC_60_LABEL", "keycode_label", "tc_60_labels", "pal", "", nullptr})
     EXPECT_EQ(get_label_type(name), 0);
 }
 

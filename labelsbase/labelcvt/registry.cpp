@@ -12,6 +12,7 @@
 #include "labelsbase/labelcvt/keycode.h"
 #include "labelsbase/labelcvt/label_facts.h"
 #include "labelsbase/labelcvt/timecode.h"
+#include "labelsbase/labelcvt/type_by_name.h"
 #include "labelsbase/support/broken.h"
 #include "labelsbase/support/enumerators.h"
 #include "labelsbase/support/text.h"
@@ -138,11 +139,8 @@ label_cvt* get_static_label_cvt(label_t type) {
 }
 
 label_t get_label_type(char const* name) {
-  if (is_building) return null_label_t;
-  auto const& shared = shared_converters();
-  auto const found = std::ranges::find(shared, std::string_view{or_empty(name)},
-                                       [](label_cvt const* cvt) { return std::string_view{cvt->type_str()}; });
-  return found == shared.end() ? null_label_t : static_cast<label_t>(found - shared.begin());
+  label_t const type = all_types_by_name.find(or_empty(name));
+  return get_static_label_cvt(type) == &invalid_converter.converter ? null_label_t : type;
 }
 
 label_cvt* make_any_label_cvt(label_t type) {

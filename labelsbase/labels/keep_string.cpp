@@ -18,7 +18,7 @@
 #include "host/tokeniser.h"
 #include "labelsbase/counts/integers.h"
 #include "labelsbase/labelcvt/label_cvt.h"
-#include "labelsbase/labelcvt/registry.h"
+#include "labelsbase/labelcvt/type_by_name.h"
 #include "labelsbase/labels/label.h"
 #include "labelsbase/support/doubles.h"
 #include "labelsbase/support/text.h"
@@ -40,10 +40,14 @@ int revision_of(char const* field) noexcept {
 
 // Writes the start as one field: "?" for an empty or blank text, "_" for a blank in its prefix.
 void put_start(text_writer& out, LabelPoint& start) {
-  char const* text = start.get_string();
-  int const prefix_length = start.converter->get_prefix_length();
-  if (std::ranges::all_of(std::string_view{text}, is_blank)) text = "?";
-  for (int i = 0; *text; ++i, ++text) out.put(*text == ' ' && i < prefix_length ? '_' : *text);
+  char const* const text = start.get_string();
+  char const* first = text;
+  while (is_blank(*first)) ++first;
+  char* const field = out.end();
+  out.put(*first ? text : "?");
+  auto const prefix_length =
+      std::clamp<std::ptrdiff_t>(start.converter->get_prefix_length(), 0, out.end() - field);
+  std::replace(field, field + prefix_length, ' ', '_');
 }
 
 // Returns the samples in a unit of length and pitch: those of a frame, or 1 if the converter answers 0 or less.
@@ -54,7 +58,7 @@ int unit_of(label_cvt const& cvt) { return std::max(cvt.samples_per_unit(), 1); 
 std::size_t Label::write_keep_string(char* buffer, std::size_t size) const {
   text_writer out{buffer, size};
   int const unit = unit_of(*start.converter);
-  out.put(header).put(":1 ").put(start.converter->type_str()).put(' ');
+  out.put("LABEL_REV:1 ").put(start.converter->type_str()).put(' ');
   put_start(out, start);
   out.put(' ').number(length / unit).put(' ');
   put_fixed(out, pitch * unit).put(' ').number(bounded);
@@ -74,7 +78,7 @@ Label::Label(char const* keep) {
   revision = revision_of(first);
   if (revision == 0 || revision >= 3) return;  // hosts have written revisions below 0
 
-  if (char const* const type = fields.next()) use_converter(get_label_type(type));
+  if (char const* const type = fields.next()) use_converter(all_types_by_name.find(type));
   char const* const start_text = fields.next();
   if (start_text) start.sample = start.converter->get_keep_sample(start_text);
   set_prefix(start_text);
