@@ -63,9 +63,13 @@ CLI::Option* add_flag(CLI::App& command, char const* name, bool& flag, char cons
   return command.add_flag(name, flag, wrapped(meaning));
 }
 
-void add_examples(CLI::App& command, std::initializer_list<char const*> lines) {
+void add_examples(CLI::App& command, std::initializer_list<example> examples) {
   std::string text{"Examples:"};
-  for (auto const* line : lines) text.append("\n  labels ").append(line);
+  for (auto const& [line, output] : examples) {
+    text.append("\n  $ labels ").append(line);
+    for (auto const& each : output ? CLI::detail::split(output, '\n') : std::vector<std::string>{})
+      text.append("\n  ").append(each);
+  }
   add_note(command, text.c_str());
 }
 

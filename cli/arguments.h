@@ -33,8 +33,17 @@ CLI::Option* add_option(CLI::App& command, char const* name, char const* shape, 
 // Declares an option without a value.
 CLI::Option* add_flag(CLI::App& command, char const* name, bool& flag, char const* meaning);
 
-// End the command's help with example lines, such as "show 25f 90000", or with a text.
-void add_examples(CLI::App& command, std::initializer_list<char const*> lines);
+// An example of a command, and what it writes to standard output and standard error: {"show 25 90000",
+// "01:00:00.00"}. A test runs those whose output is given.
+struct example {
+  char const* line;              // without "labels"; the shell reads it
+  char const* output = nullptr;  // without the last line feed
+
+  constexpr example(char const* line_, char const* output_ = nullptr) noexcept : line{line_}, output{output_} {}
+};
+
+// End the command's help with examples or with a text.
+void add_examples(CLI::App& command, std::initializer_list<example> examples);
 void add_note(CLI::App& command, char const* text);
 
 // Returns the command's name.

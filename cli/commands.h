@@ -28,7 +28,10 @@ class App;
   row(pitch,   "Show how fast a label runs on a medium")                                \
   row(clock,   "Convert clock time to cel time and back")                               \
   row(choices, "List the label choices of the user interface")                          \
-  row(schema,  "Print the JSON Schema of what a command writes with --format json")
+  row(schema,  "Print the JSON Schema of what a command writes with --format json")     \
+  row(help,    "Explain a command, with examples")                                      \
+  row(manual,  "Print the manual page of a command")                                    \
+  row(completion, "Print what completes command lines in a shell")
 // clang-format on
 
 namespace cli {

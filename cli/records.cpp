@@ -232,8 +232,8 @@ void add_format(CLI::App& command, std::string& chosen, std::span<field const> f
   declarations().push_back({command_name(command), fields});
   chosen = formats[0].name;
   add_option(
-      command, "--format", "FORMAT [text]", chosen,
-      "Write text, csv, tsv, json (an array) or jsonl (an object a line); 'labels schema' describes the fields");
+      command, "--format", "text|csv|tsv|json|jsonl [text]", chosen,
+      "How to write results: json is an array, jsonl an object a line; 'labels schema' describes the fields");
 }
 
 format find_format(std::string const& name) {
