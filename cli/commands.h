@@ -17,6 +17,7 @@ class App;
   row(types,   "List the label types")                                                  \
   row(show,    "Convert frames to labels")                                             \
   row(read,    "Convert labels to frames")                                             \
+  row(convert, "Convert labels of one type to those of another") \
   row(add,     "Add frames to a label")                                                 \
   row(diff,    "Subtract labels from a label, in frames")                               \
   row(check,   "Check decision lists, logs and sheets")                                  \

@@ -3,8 +3,8 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 
+#include "labelnames/names.h"
 #include "labelsbase/MediumRoll.h"
-#include "labelsbase/labelcvt/label_facts.h"
 
 namespace cli {
 namespace {
@@ -16,8 +16,7 @@ std::string on_one_line(std::string text) {
 
 std::vector<std::string> type_names() {
   std::vector<std::string> names;
-  for (auto const& facts : labelsbase::all_label_facts)
-    if (facts.has_labels() && facts.exchange.written) names.emplace_back(facts.exchange.written);
+  for (auto const& each : labelnames::all_names()) names.emplace_back(each.name());
   return names;
 }
 

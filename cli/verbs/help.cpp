@@ -29,7 +29,11 @@ command_reference const& find_command(std::vector<command_reference> const& all,
 exit_status help(CLI::App const& tool, std::string const& name, console& io) {
   auto const all = describe_commands(tool);
   auto const& command = find_command(all, name);
-  io.results.write(name.empty() ? tool.help() : tool.get_subcommand(command.name)->help());
+  // App::help() would explain the command that runs, which is `help`.
+  auto const tool_help = [&] {
+    return tool.get_formatter()->make_help(&tool, "labels", CLI::AppFormatMode::Normal);
+  };
+  io.results.write(name.empty() ? tool_help() : tool.get_subcommand(command.name)->help("labels"));
   return all_well;
 }
 
