@@ -75,6 +75,7 @@ bool item_loop::end_of_lines() {
 
 void item_loop::refuse(std::string_view why) {
   is_refused_ = true;
+  reason_ = why;
   if (status_ == all_well) status_ = some_refused;
   auto message = refusal(io_.place.text() + ":", text_, why);
   if (!is_at_lines_ && is_file(operand_))

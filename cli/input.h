@@ -59,6 +59,9 @@ class item_loop {
   // Reports the item as refused, with its place.
   void refuse(std::string_view why);
 
+  // Returns why the last refused item was refused.
+  [[nodiscard]] std::string const& reason() const noexcept { return reason_; }
+
   [[nodiscard]] exit_status status() const noexcept { return status_; }
 
  private:
@@ -85,6 +88,7 @@ class item_loop {
   std::size_t next_operand_ = 0;
   bool is_at_lines_;
   bool is_refused_ = false;
+  std::string reason_;
   bool has_hinted_ = false;  // at blank lines
   exit_status status_ = all_well;
 };

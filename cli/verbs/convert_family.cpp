@@ -5,8 +5,7 @@
 #include "cli/arguments.h"
 #include "cli/commands.h"
 #include "cli/conversion.h"
-#include "cli/input.h"
-#include "cli/records.h"
+#include "cli/item_records.h"
 
 namespace cli {
 namespace {
@@ -18,37 +17,23 @@ struct arguments {
 };
 
 constexpr field fields[] = {
-    {"input", value_type::text, "The label to convert"},
+    input_field,
     {"label", value_type::text, "The label of the other type", "label", may_be_missing},
     {"is_exact", value_type::boolean, "Whether a frame begins at its instant; otherwise the label is rounded",
      nullptr, may_be_missing},
-    {"problem", value_type::text, "Why the label was refused", nullptr, may_be_missing},
+    problem_field,
 };
 
 exit_status convert(arguments const& given, console& io) {
   label_converter labels{given.how, io};
-  auto const how = find_format(given.format);
-  std::string_view label;
-  if (how == format::text) {
-    return for_each_item(given.labels, io, [&](std::string_view text) -> problem {
-      if (auto wrong = labels.convert(text, label)) return wrong;
-      io.results.line(label);
-      return std::nullopt;
-    });
-  }
-
-  record_writer records{how, fields, io.results};
-  item_loop items{given.labels.operands, io};
-  while (items.next()) {
-    problem const wrong = labels.convert(items.text(), label);
-    if (!wrong) {
-      records.write({items.text(), label, labels.is_exact(), missing});
-    } else {
-      records.write({items.text(), missing, missing, std::string_view{*wrong}});
-      items.refuse(*wrong);
-    }
-  }
-  return items.status();
+  return for_each_item(given.labels, find_format(given.format), fields, io,
+                       [&](std::string_view text, std::span<value> found) -> problem {
+                         std::string_view label;
+                         if (auto wrong = labels.convert(text, label)) return wrong;
+                         found[0] = label;
+                         found[1] = labels.is_exact();
+                         return std::nullopt;
+                       });
 }
 
 }  // namespace
