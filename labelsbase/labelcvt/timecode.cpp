@@ -1,7 +1,9 @@
 #include "labelsbase/labelcvt/timecode.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdint>
 
 #include "host/config.h"
 #include "labelsbase/samples.h"
@@ -29,16 +31,6 @@ constexpr int typed_frames(int frames_per_second) noexcept {
 
 static_assert(typed_frames(24) == 29 && typed_frames(60) == 59 && typed_frames(100) == 99 &&
               typed_frames(120) == 199);
-
-// Reads two digits at `text`. Returns false if other characters are there.
-inline bool read_pair(char const* text, int& value) noexcept {
-  auto const tens = digit_value(text[0]);
-  if (tens > 9) return false;
-  auto const units = digit_value(text[1]);
-  if (units > 9) return false;
-  value = static_cast<int>(tens * 10 + units);
-  return true;
-}
 
 // Reads a label in full columns, as nearly every text has them. Returns false for any other, which may be a label
 // all the same.
@@ -107,10 +99,23 @@ constexpr unsigned bcd(int value) noexcept {
   return (v / 10) << 4 | v % 10;
 }
 
-constexpr unsigned packed(timecode_fields const& fields, bool drop) noexcept {
+// The same for every field of a sample within the day: looked up, for the benchmark's row sample_to_bcd.
+constexpr auto bcd_of_fields = [] {
+  constexpr std::size_t values = [] {
+    int most = 60;
+    for (auto const& facts : all_label_facts) most = std::max(most, facts.timecode.frames_per_second);
+    return static_cast<std::size_t>(most);
+  }();
+  std::array<std::uint16_t, values> digits{};
+  for (std::size_t i = 0; i < values; ++i) digits[i] = static_cast<std::uint16_t>(bcd(static_cast<int>(i)));
+  return digits;
+}();
+
+// Packs fields whose digits `digits_of` returns.
+constexpr unsigned packed(timecode_fields const& fields, bool drop, auto digits_of) noexcept {
   unsigned const drop_flag = drop ? 0x40U : 0U;
-  return bcd(fields.hours) << 24 | bcd(fields.minutes) << 16 | bcd(fields.seconds) << 8 | bcd(fields.frames) |
-         drop_flag;
+  return digits_of(fields.hours) << 24 | digits_of(fields.minutes) << 16 | digits_of(fields.seconds) << 8 |
+         digits_of(fields.frames) | drop_flag;
 }
 
 // Prints the assertion message for a sample that should not be negative. The types with three digits of frames
@@ -343,15 +348,18 @@ char const* timecode_label::get_abs_string(LabelPoint* point, int sample) {
 
 // Deliberate: frames are packed as counted, so from 40 up their tens reach the drop-frame bit and beyond.
 unsigned timecode_label::sample_to_smpte_string(LabelPoint*, int sample) {
-  if (splits_plainly(sample)) {
-    auto const fields = count_.split_from_zero(static_cast<unsigned>(sample));
-    remember(fields);
-    return packed(fields, count_.is_drop_frame());
-  }
+  if (!splits_plainly(sample)) return pack_any(sample);
+  auto const fields = count_.split_from_zero(static_cast<unsigned>(sample));
+  remember(fields);
+  return packed(fields, count_.is_drop_frame(),
+                [](int field) -> unsigned { return bcd_of_fields[static_cast<unsigned>(field)]; });
+}
+
+[[gnu::noinline]] unsigned timecode_label::pack_any(int sample) {
   if (sample < 0 || is_special_sample(sample)) return 0;
   bool second_field = false;
   sample_to_hmsf(sample, second_field);
-  return packed(remembered(), type() == ntsc_drop_label_t);
+  return packed(remembered(), type() == ntsc_drop_label_t, bcd);
 }
 
 unsigned timecode_label::get_abs_smpte_string(LabelPoint* point, int sample) {

@@ -129,6 +129,7 @@ class LABELSBASE_API timecode_label : public variable_label {
   // Returns the count without drop-frame, by the modulus, which hosts' classes may set.
   [[nodiscard]] LABELSBASE_LOCAL labelsbase::timecode_count plain_count() const noexcept;
   LABELSBASE_LOCAL char const* write_any(LabelPoint* point, int sample);
+  [[nodiscard]] LABELSBASE_LOCAL unsigned pack_any(int sample);
   [[nodiscard]] LABELSBASE_LOCAL int read_any(char const* text);
 
   // Whether the fields of a sample within the day follow from the count alone, and fill their columns.

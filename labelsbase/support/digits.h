@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "labelsbase/characters.h"
+
 namespace labelsbase {
 
 // "00" to "99".
@@ -21,6 +23,16 @@ inline constexpr auto digit_pairs = [] {
 // Writes a number from 0 to 99.
 inline void put_pair(char* out, int value) noexcept {
   std::memcpy(out, digit_pairs[static_cast<unsigned>(value)], 2);
+}
+
+// Reads two digits. Returns false if another character is among them.
+inline bool read_pair(char const* text, int& value) noexcept {
+  auto const tens = digit_value(text[0]);
+  if (tens > 9) return false;
+  auto const units = digit_value(text[1]);
+  if (units > 9) return false;
+  value = static_cast<int>(tens * 10 + units);
+  return true;
 }
 
 // Writes the last `digits` digits of a number, with leading zeros.
