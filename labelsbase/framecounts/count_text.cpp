@@ -7,6 +7,7 @@
 #include "labelsbase/counts/timecode_count.h"
 #include "labelsbase/framecounts/count_label_rows.h"
 #include "labelsbase/framecounts/pulldown.h"
+#include "labelsbase/support/digits.h"
 #include "labelsbase/support/text.h"
 
 using namespace labelsbase;
@@ -20,23 +21,31 @@ constexpr timecode_count const& count_of(count_label_row const& row, int drop) n
   return drop != 0 && row.frames_per_second == 30 ? drop_frame_count : row.count;
 }
 
-// Returns the frame of a timecode text, from 1. Any text can be read; fields that are missing are 0.
+// Reads the fields of any text. From the first one that is not a number on, all are 0.
 //
 //   hh mm ss ff: blank* ("+" | "-")? digit+, in up to two characters after the blanks
-int read_timecode(char const* text, timecode_count const& count) noexcept {
-  int fields[4] = {};
+[[gnu::noinline]] timecode_fields read_any_fields(char const* text) noexcept {
+  timecode_fields fields{};
   text_reader in{text};
-  for (int& field : fields) {
+  for (int* field : {&fields.hours, &fields.minutes, &fields.seconds, &fields.frames}) {
     auto const number = in.number(2);
     if (!number) break;
-    field = *number;
+    *field = *number;
   }
+  return fields;
+}
+
+// Returns the frame of a timecode text, from 1. Nearly every text begins with eight digits.
+int read_timecode(char const* text, timecode_count const& count) noexcept {
+  timecode_fields fields;
+  bool const has_eight_digits = text && read_pair(text, fields.hours) && read_pair(text + 2, fields.minutes) &&
+                                read_pair(text + 4, fields.seconds) && read_pair(text + 6, fields.frames);
+  if (!has_eight_digits) fields = read_any_fields(text);
 
   // Deliberate: the labels that drop-frame leaves out are read too, as the last two frames of the minute before. A
   // minute below 0 counts 1798 frames.
-  auto const [hours, minutes, seconds, frames] = fields;
-  int const left_out = count.is_drop_frame() && minutes % 10 < 0 ? 2 : 0;
-  return count.join({hours, minutes, seconds, frames}) + left_out + 1;
+  int const left_out = count.is_drop_frame() && fields.minutes % 10 < 0 ? 2 : 0;
+  return count.join(fields) + left_out + 1;
 }
 
 // Writes the timecode of a frame as hhmmssff. A frame up to a day out of the day moves into it. Returns 1, or 0
@@ -51,8 +60,12 @@ int write_timecode(char* text, int frame_number, timecode_count const& count) no
   auto const longest = std::int64_t{count.labels_per_hour()} * 100;
   if (!text || frame < 0 || frame >= longest) return 0;
 
-  auto const [hours, minutes, seconds, frames] = count.split(static_cast<int>(frame));
-  text_writer{text, count_text_size}.number(hours, 2).number(minutes, 2).number(seconds, 2).number(frames, 2);
+  auto const [hours, minutes, seconds, frames] = count.split(static_cast<int>(frame));  // each below 100
+  put_pair(text, hours);
+  put_pair(text + 2, minutes);
+  put_pair(text + 4, seconds);
+  put_pair(text + 6, frames);
+  text[count_text_size - 1] = '\0';
   return 1;
 }
 

@@ -1,5 +1,6 @@
 // Key numbers.
 
+#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -9,6 +10,7 @@
 #include "labelsbase/framecounts/pulldown.h"
 #include "labelsbase/framecounts/put_count.h"
 #include "labelsbase/framecounts/transfers.h"
+#include "labelsbase/support/digits.h"
 #include "labelsbase/support/text.h"
 
 using namespace labelsbase;
@@ -56,13 +58,6 @@ struct key_number {
   std::int64_t rest;
 };
 
-// Returns the length of a text, or 9 if it is longer than 8.
-std::size_t length_up_to_9(char const* text) noexcept {
-  std::size_t length = 0;
-  while (length < 9 && text[length]) ++length;
-  return length;
-}
-
 // Reads a key and what follows it. Any text can be read; a field that is missing is 0. Changes blanks among the
 // first 8 characters to zeros in place: hosts rely on it.
 //
@@ -70,10 +65,20 @@ std::size_t length_up_to_9(char const* text) noexcept {
 //   others
 key_number read_key_number(char* text) noexcept {
   if (!text) return {};
-  for (std::size_t i = 0; i < 8 && text[i]; ++i)
-    if (text[i] == ' ') text[i] = '0';
+  std::size_t length = 0;
+  unsigned number = 0;
+  unsigned largest_digit = 0;
+  for (; length < 8 && text[length]; ++length) {
+    if (text[length] == ' ') text[length] = '0';
+    auto const digit = digit_value(text[length]);
+    largest_digit = std::max(largest_digit, digit);
+    number = number * 10 + digit;
+  }
+  if (length == 8 && text[8]) ++length;
 
-  auto const length = length_up_to_9(text);
+  // Nearly every text is 6 to 8 digits, the last two of which follow the key.
+  if (largest_digit <= 9 && length >= 6 && length <= 8) return {number / 100, number % 100};
+
   text_reader in{text};
   auto const key = in.number(length == 7 ? 5 : length == 8 ? 6 : 4);
   if (!key) return {};
@@ -84,7 +89,9 @@ key_number read_key_number(char* text) noexcept {
 int write_key_number(char* text, key_number number) noexcept {
   auto const [key, rest] = number;
   if (key < 0 || key > 999'999 || rest < 0 || rest > 99) return 0;
-  text_writer{text, count_text_size}.number(static_cast<int>(key), 6).number(static_cast<int>(rest), 2);
+  put_digits(text, static_cast<unsigned>(key), 6);
+  put_pair(text + 6, static_cast<int>(rest));
+  text[count_text_size - 1] = '\0';
   return 1;
 }
 
