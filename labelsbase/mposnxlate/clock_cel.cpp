@@ -18,6 +18,25 @@ constexpr double ntsc_slowdown = 1.001;
 constexpr double film_fps = 24.0;
 constexpr int unset_sequence = -1;
 
+// What clock and cel time depend on.
+struct playout {
+  Kiv::FrameRate project_rate;
+  Kiv::FrameRate output_rate;
+  bool output_1001;
+  bool output_pulled_down;
+};
+
+playout playout_of(MPosn_Xlate_Params const& p) noexcept {
+  return {p.project_rate, p.output_rate, p.output_1001, p.output_pulled_down};
+}
+
+// The current project, played out at a gearing: as MPosn_Xlate_Params{gearing}, which asks the host for more.
+playout playout_of(Kiv::OutputGearing const& gearing) {
+  auto const project_rate = Kiv::CurrentProject::getFrameRate(0);
+  auto const output_rate = gearing.getFrameRate();
+  return {project_rate, output_rate, Kiv::has1001Factor(output_rate), gearing.getUsePulldown()};
+}
+
 // Projects whose frames play one for one if there is no pulldown.
 struct film_project_row {
   Kiv::FrameRate project_rate;
@@ -57,7 +76,7 @@ constexpr film_output_row film_output_rows[] = {
 // clang-format on
 
 // Returns the output of film in this direction, or null if the project or the output is not one for film.
-film_output_row const* film_output(MPosn_Xlate_Params const& p, bool film_project_row::*direction) noexcept {
+film_output_row const* film_output(playout const& p, bool film_project_row::*direction) noexcept {
   auto const* const project =
       std::ranges::find(film_project_rows, p.project_rate, &film_project_row::project_rate);
   if (project == std::end(film_project_rows) || !(project->*direction)) return nullptr;
@@ -65,7 +84,7 @@ film_output_row const* film_output(MPosn_Xlate_Params const& p, bool film_projec
   return output == std::end(film_output_rows) ? nullptr : output;
 }
 
-double clock_to_cel(double seconds, MPosn_Xlate_Params const& p) {
+double clock_to_cel(double seconds, playout const& p) {
   auto const* const film = film_output(p, &film_project_row::clock_to_cel);
   if (!film) {
     double const output_frames = seconds / Kiv::getFrameDuration(p.output_rate);
@@ -77,7 +96,7 @@ double clock_to_cel(double seconds, MPosn_Xlate_Params const& p) {
   return p.output_pulled_down ? seconds : seconds * (film->fps / film_fps);
 }
 
-double cel_to_clock(double seconds, MPosn_Xlate_Params const& p) {
+double cel_to_clock(double seconds, playout const& p) {
   auto const* const film = film_output(p, &film_project_row::cel_to_clock);
   if (!film) {
     double const project_frames = seconds / Kiv::getCelResolution(p.project_rate);
@@ -89,13 +108,17 @@ double cel_to_clock(double seconds, MPosn_Xlate_Params const& p) {
   return p.output_pulled_down ? seconds : seconds * (film_fps / film->fps);
 }
 
-using translation = double (*)(double seconds, MPosn_Xlate_Params const& params);
+// Hosts translate all other media.
+constexpr bool is_translated(MediumRollMedium from, MediumRollMedium to) noexcept {
+  return (from == Medium_clock && to == Medium_cel) || (from == Medium_cel && to == Medium_clock);
+}
 
-// Returns null for media that the host translates.
-translation find_translation(MediumRollMedium from, MediumRollMedium to) noexcept {
-  if (from == Medium_clock && to == Medium_cel) return clock_to_cel;
-  if (from == Medium_cel && to == Medium_clock) return cel_to_clock;
-  return nullptr;
+double translated(double posn, MediumRollMedium from, MediumRollMedium to, playout const& p) {
+  if (!is_translated(from, to)) return invalid_posn;
+  if (posn == invalid_posn) return posn;
+  double const seconds = std::abs(posn);
+  double const there = to == Medium_cel ? clock_to_cel(seconds, p) : cel_to_clock(seconds, p);
+  return std::signbit(posn) ? -there : there;
 }
 
 Kiv::OutputGearing current_gearing() { return Kiv::OutputGearing{1}; }
@@ -109,16 +132,12 @@ double sampleNr_to_CelPosn(int n) { return n * Kiv::CurrentProject::getCelResolu
 int celPosn_to_SampleNr(double c) { return to_int(mround(c / Kiv::CurrentProject::getCelResolution())); }
 
 double mPosn_Xlate(double posn, MediumRollMedium from, MediumRollMedium to, MPosn_Xlate_Params& params) {
-  auto const translate = find_translation(from, to);
-  if (!translate) return invalid_posn;
-  if (params.sequence == unset_sequence) params.sequence = 0;
-  if (posn == invalid_posn) return posn;
-  return std::signbit(posn) ? -translate(-posn, params) : translate(posn, params);
+  if (params.sequence == unset_sequence && is_translated(from, to)) params.sequence = 0;
+  return translated(posn, from, to, playout_of(params));
 }
 
 double mPosn_Xlate(double posn, MediumRollMedium from, MediumRollMedium to) {
-  MPosn_Xlate_Params params{current_gearing()};
-  return mPosn_Xlate(posn, from, to, params);
+  return translated(posn, from, to, playout_of(current_gearing()));
 }
 
 double mPosn_Xlate_ClockToCel(double t, MPosn_Xlate_Params& p) {
@@ -126,8 +145,7 @@ double mPosn_Xlate_ClockToCel(double t, MPosn_Xlate_Params& p) {
 }
 
 double mPosn_Xlate_ClockToCel(double t, Kiv::OutputGearing const& g) {
-  MPosn_Xlate_Params params{g};
-  return mPosn_Xlate_ClockToCel(t, params);
+  return translated(t, Medium_clock, Medium_cel, playout_of(g));
 }
 
 double mPosn_Xlate_ClockToCel(double t) { return mPosn_Xlate_ClockToCel(t, current_gearing()); }
@@ -137,8 +155,7 @@ double mPosn_Xlate_CelToClock(double c, MPosn_Xlate_Params& p) {
 }
 
 double mPosn_Xlate_CelToClock(double c, Kiv::OutputGearing const& g) {
-  MPosn_Xlate_Params params{g};
-  return mPosn_Xlate_CelToClock(c, params);
+  return translated(c, Medium_cel, Medium_clock, playout_of(g));
 }
 
 double mPosn_Xlate_CelToClock(double c) { return mPosn_Xlate_CelToClock(c, current_gearing()); }
