@@ -11,6 +11,8 @@
 
 namespace labelcheck {
 
+inline constexpr std::int64_t powers_of_ten[]{1, 10, 100, 1'000, 10'000, 100'000, 1'000'000, 10'000'000};
+
 // The form of a film type's labels:
 //
 //   key or ink number   prefix count separator frame
@@ -41,12 +43,16 @@ class film_form {
     return prefix_length() + static_cast<std::size_t>(digits());
   }
 
+  // Returns the characters behind the count: separator and frame, "." and perforation.
+  [[nodiscard]] constexpr std::size_t frames_length() const noexcept {
+    return (has_frames() ? 3U : 0U) + (names_perforation() ? 2U : 0U);
+  }
+
   // Returns the largest key, ink number, feet or film frames. Feet run ten times as far as their digits, and one
   // foot further at 3 perforations a frame.
   [[nodiscard]] constexpr std::int64_t last_count() const noexcept {
     if (!has_frames()) return std::numeric_limits<std::int32_t>::max();
-    std::int64_t counts = has_prefix() ? 1 : 10;
-    for (int digit = 0; digit < digits(); ++digit) counts *= 10;
+    auto const counts = powers_of_ten[digits() + !has_prefix()];
     return has_prefix() || !names_perforation() ? counts - 1 : counts;
   }
 

@@ -14,7 +14,6 @@ namespace labelcheck {
 struct timecode_form {
   labelsbase::timecode_facts const& facts;
   int frames_per_second;  // after the host's setting
-  bool is_slow;           // two samples a frame: ":" before the frames marks the second one
 
   [[nodiscard]] constexpr labelsbase::timecode_count count() const noexcept {
     return labelsbase::timecode_count{frames_per_second, facts.drop_frame};
@@ -31,7 +30,8 @@ struct timecode_form {
 //
 //   blank* ("-" | "+")? blank* digit*, then up to three times: mark blank* digit*       mark: one of :;.,+-
 //
-// Skips other characters behind the digits of a field. Fields that are left out are 0.
-[[nodiscard]] std::string nearest_timecode(timecode_form const& form, std::string_view text);
+// Skips other characters behind the digits of a field. Fields that are left out are 0. `is_slow` is timecode of
+// two samples a frame: ":" before the frames marks the second one.
+[[nodiscard]] std::string nearest_timecode(timecode_form const& form, bool is_slow, std::string_view text);
 
 }  // namespace labelcheck

@@ -31,7 +31,7 @@ std::string written(timecode_form const& form, bool negative, labelsbase::timeco
 
 }  // namespace
 
-std::string nearest_timecode(timecode_form const& form, std::string_view text) {
+std::string nearest_timecode(timecode_form const& form, bool is_slow, std::string_view text) {
   skip(text, is_blank);
   bool const negative = text.starts_with('-');
   if (negative || text.starts_with('+')) text.remove_prefix(1);
@@ -54,7 +54,7 @@ std::string nearest_timecode(timecode_form const& form, std::string_view text) {
       if (std::ranges::all_of(text, is_blank)) break;
       return "";
     }
-    if (part + 1 == frames && form.is_slow && text.front() == ':') separator = ':';
+    if (part + 1 == frames && is_slow && text.front() == ':') separator = ':';
     text.remove_prefix(1);
   }
   if (!legible) return "";
