@@ -16,8 +16,8 @@ constinit thread_local bool thread_block_taken = false;
 
 }  // namespace
 
-// The state stands in front of a copy of the text, in one block. In the copy, the first separator stands for all,
-// and one more follows the text: every token ends at it.
+// The state stands in front of a copy of the text, in one block. In the copy, the first separator stands for all.
+// One more separator follows the text, so that every token ends at one.
 struct tokeniser::state {
   char* rest;
   char* end;
@@ -50,12 +50,14 @@ tokeniser::~tokeniser() {
 
 char const* tokeniser::next() {
   if (!state_) return nullptr;
-  auto const [rest, end, taken, separator] = *state_;
-  char* token = rest;
-  while (token != end && *token == separator) ++token;
-  if (token == end) return nullptr;
-  auto* const stop = static_cast<char*>(std::memchr(token, separator, static_cast<std::size_t>(end - token)));
-  *stop = '\0';
-  state_->rest = stop + 1;
-  return token;
+  auto& [rest, end, taken, separator] = *state_;
+  for (; rest != end; ++rest) {
+    if (*rest == separator) continue;
+    char* const token = rest;
+    auto* const stop = static_cast<char*>(std::memchr(token, separator, static_cast<std::size_t>(end - token)));
+    *stop = '\0';
+    rest = stop + 1;
+    return token;
+  }
+  return nullptr;
 }

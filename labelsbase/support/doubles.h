@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cstdint>
 #include <cstring>
+#include <iterator>
 #include <limits>
 #include <optional>
 #include <string_view>
@@ -36,15 +37,6 @@ inline constexpr std::uint64_t ten_decimals = 10'000'000'000;
   return units + rounds_up;
 }
 
-// Holds the largest double with ten decimals.
-using fixed_text = char[352];
-
-// Returns the digits of any double as "%.10f" writes them.
-[[nodiscard, gnu::noinline]] inline std::string_view fixed_digits(fixed_text& text, double value) noexcept {
-  auto const end = std::to_chars(text, text + sizeof text, value, std::chars_format::fixed, 10).ptr;
-  return {text, static_cast<std::size_t>(end - text)};
-}
-
 // Writes a double as "%.10f" does in the "C" locale. Inlined by force, so that the writer stays in registers
 // (write_keep_string).
 [[gnu::always_inline]] inline text_writer& put_fixed(text_writer& out, double value) noexcept {
@@ -55,8 +47,9 @@ using fixed_text = char[352];
     put_digits(decimals + 3, static_cast<unsigned>(fraction % 100'000'000), 8);
     return out.number(static_cast<int>(*units / ten_decimals)).put(std::string_view{decimals, sizeof decimals});
   }
-  fixed_text text;
-  return out.put(fixed_digits(text, value));
+  char digits[352];  // more than the largest double has
+  auto const* const end = std::to_chars(digits, std::end(digits), value, std::chars_format::fixed, 10).ptr;
+  return out.put(std::string_view{digits, static_cast<std::size_t>(end - digits)});
 }
 
 [[nodiscard]] constexpr bool is_hex_digit(char c) noexcept {
