@@ -116,7 +116,7 @@ class parser {
 
   [[nodiscard]] bool end() noexcept { return !explains || at_end() || refuse(field::whole, reason::trailing); }
 
-  // Keep what is wrong, here or at a position, and return false.
+  // Return false. An explaining parser keeps what is wrong, here or at a position.
   bool refuse(field wrong, reason why, int number = 0) noexcept {
     return refuse_at(position(), wrong, why, number);
   }

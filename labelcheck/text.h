@@ -38,7 +38,7 @@ namespace labelcheck {
 
 // Whether eight characters are printable, at once, for the benchmark strict_reading/keycode_35.
 [[nodiscard]] inline bool eight_are_printable(char const* text) noexcept {
-  std::uint64_t eight;
+  std::uint64_t eight = 0;
   std::memcpy(&eight, text, sizeof eight);
   constexpr std::uint64_t ones = 0x0101010101010101U;
   auto const below = (eight - ones * '!') & ~eight;  // the top bit of a byte says that it is wrong
