@@ -34,7 +34,7 @@ tokeniser::tokeniser(char const* text, char const* separators) {
   if (fits) thread_block_taken = true;
 
   auto* const copy = static_cast<char*>(block) + sizeof(state);
-  std::memcpy(copy, text, size);
+  std::copy_n(text, size, copy);
   copy[size] = *separators;
   for (char const* other = separators; *other; ++other)
     if (other != separators) std::replace(copy, copy + size, *other, *separators);

@@ -159,7 +159,7 @@ inline constexpr double powers_of_ten[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6
   char const* next = text;
   std::uint64_t digits = 0;
   auto const take_digits = [&] {
-    for (unsigned digit; (digit = digit_value(*next)) < 10; ++next) digits = digits * 10 + digit;
+    for (unsigned digit = 0; (digit = digit_value(*next)) < 10; ++next) digits = digits * 10 + digit;
   };
   take_digits();
   bool const has_digits = next != text;

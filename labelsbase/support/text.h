@@ -103,7 +103,7 @@ class text_reader {
     // A number from 2^63 / 10 up stays too large with any further digit.
     constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
     std::uint64_t value = digit_value(*next_++);
-    for (unsigned digit; --width > 0 && (digit = digit_value(*next_)) < 10; ++next_)
+    for (unsigned digit = 0; --width > 0 && (digit = digit_value(*next_)) < 10; ++next_)
       value = std::min(value, largest / 10 + 1) * 10 + digit;
     value = std::min(value, negative ? largest + 1 : largest);
     return wrap_to_int(negative ? 0 - value : value);
