@@ -14,13 +14,16 @@ class App;
 // clang-format off
 //           name     what it does
 #define LABELS_COMMANDS(row)                                                            \
-  row(types,   "List the label types")                                                  \
-  row(show,    "Convert frames to labels")                                             \
-  row(read,    "Convert labels to frames")                                             \
-  row(convert, "Convert labels of one type to those of another") \
+  row(types,   "List the label types, or search them")                                  \
+  row(show,    "Convert frames to labels")                                              \
+  row(read,    "Convert labels to frames")                                              \
+  row(convert, "Convert labels of one type to those of another")                        \
   row(add,     "Add frames to a label")                                                 \
   row(diff,    "Subtract labels from a label, in frames")                               \
-  row(check,   "Check decision lists, logs and sheets")                                  \
+  row(range,   "List the labels from one to another")                                   \
+  row(day,     "List all labels of a day")                                              \
+  row(now,     "Show the label of the time of day")                                     \
+  row(check,   "Check decision lists, logs and sheets")                                 \
   row(keep,    "Explain or write keep strings, the text form in which hosts store labels") \
   row(count,   "Count film or video frames, across a pulldown if there is one")         \
   row(cadence, "Show which film frame each video frame of a pulldown comes from")       \

@@ -21,7 +21,8 @@ namespace labelcheck {
 //   blank* ("-" | "+")? blank* feet (other* frame (other* perforation)?)?
 //   blank* ("-" | "+")? blank* frames
 //
-// Blanks and dashes within the head are skipped; `other` is any character but a digit.
+// Blanks and dashes within the head are skipped, and digits before a prefix that begins with a letter; `other` is
+// any character but a digit.
 [[nodiscard]] std::string nearest_film_label(film_form const& form, std::string_view text);
 
 }  // namespace labelcheck

@@ -52,6 +52,15 @@ bool is_legible(film_form const& form, film_head const& head) noexcept {
   return has_prefix && has_digit && std::ranges::all_of(head.count, is_in_count);
 }
 
+// Returns the digits before a whole prefix that begins with a letter: codes of maker and stock,
+// "0212KJ1234561234".
+std::size_t surplus_digits(film_form const& form, std::string_view key) noexcept {
+  if (key.size() <= form.head_length()) return 0;
+  auto const surplus = key.size() - form.head_length();
+  bool const are_digits = digits_of(key).size() == surplus;
+  return are_digits ? surplus : 0;
+}
+
 // Takes prefix and count off the text. Returns false if they are not legible.
 bool take_head(film_form const& form, std::string_view& text, film_label& label) {
   auto const head = head_of(form, text);
@@ -62,6 +71,7 @@ bool take_head(film_form const& form, std::string_view& text, film_label& label)
     text = head.substr(head.size() - 2);
     key.resize(form.head_length());
   }
+  key.erase(0, surplus_digits(form, key));
   auto const [prefix, count] = split(form, key);
   if (!is_legible(form, {prefix, count})) return false;
 

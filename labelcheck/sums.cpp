@@ -2,6 +2,7 @@
 
 #include "labelcheck/range.h"
 #include "labelsbase/labelcvt/label_cvt.h"
+#include "labelsbase/labelcvt/timecode.h"
 
 namespace labelcheck {
 namespace {
@@ -22,7 +23,10 @@ sum add_samples(LabelPoint const& start, std::int64_t samples) {
   auto const type = start.cvt()->type();
   LabelPoint distance{type, 0};
   distance.sample = static_cast<int>(samples);
-  int const sample = (start + distance).sample;
+  int sample = (start + distance).sample;
+  // A sum of a whole day is a span of 24 hours to the library; the label after the last of a day is the first.
+  auto const* const timecode = start.cvt()->as_timecode();
+  if (timecode && sample == timecode->samples_per_day()) sample = 0;
   if (!wraps_by_whole_runs(labelsbase::facts_of(type), sample, start.sample + samples))
     return {sample, "leads beyond the first or last key, where the labels do not go on"};
   return {sample, nullptr};

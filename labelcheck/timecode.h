@@ -29,9 +29,11 @@ struct timecode_form {
 // nothing is legible.
 //
 //   blank* ("-" | "+")? blank* digit*, then up to three times: mark blank* digit*       mark: one of :;.,+-
+//   blank* ("-" | "+")? blank* digit+ blank*                                           packed: "1000000"
 //
-// Skips other characters behind the digits of a field. Fields that are left out are 0. `is_slow` is timecode of
-// two samples a frame: ":" before the frames marks the second one.
+// Packed digits are those of a whole label; only the first may be left out. Skips other characters behind the
+// digits of a field. Fields that are left out are 0. `is_slow` is timecode of two samples a frame: ":" before the
+// frames marks the second one.
 [[nodiscard]] std::string nearest_timecode(timecode_form const& form, bool is_slow, std::string_view text);
 
 }  // namespace labelcheck

@@ -29,12 +29,29 @@ std::string written(timecode_form const& form, bool negative, labelsbase::timeco
   return text;
 }
 
+// Returns packed digits with marks between the fields: "01000000" as "01:00:00:00". Returns an empty text for any
+// other text.
+std::string unpacked(timecode_form const& form, std::string_view text) {
+  while (!text.empty() && is_blank(text.back())) text.remove_suffix(1);
+  auto const frame_digits = static_cast<std::size_t>(form.facts.frame_digits());
+  auto const size = digits_of(text).size();
+  if (size != text.size() || size + 1 < 6 + frame_digits || size > 6 + frame_digits) return "";
+  std::string marked(6 + frame_digits - size, '0');
+  marked += text;
+  for (std::size_t const place : {6U, 4U, 2U}) marked.insert(place, ":");
+  return marked;
+}
+
 }  // namespace
 
 std::string nearest_timecode(timecode_form const& form, bool is_slow, std::string_view text) {
   skip(text, is_blank);
   bool const negative = text.starts_with('-');
   if (negative || text.starts_with('+')) text.remove_prefix(1);
+
+  skip(text, is_blank);
+  auto const marked = unpacked(form, text);
+  if (!marked.empty()) text = marked;
 
   constexpr std::size_t frames = 3;
   std::array const last{23, 59, 59, form.last_frame()};

@@ -44,6 +44,122 @@ TEST_F(Tool, ConvertsLabels) {
   });
 }
 
+TEST_F(Tool, NamesTypesAsPeopleDo) {
+  for (char const* const named : {"25 pal_label",
+                                  "50i pal_label",
+                                  "'25 fps' pal_label",
+                                  "P pal_label",
+                                  "23.98 tc_24_label",
+                                  "24p tc_24_label",
+                                  "29.97 ntsc_label",
+                                  "30df ntsc_drop_label",
+                                  "'29.97 DF' ntsc_drop_label",
+                                  "30F-Drop ntsc_drop_label",
+                                  "59.94p tc_60_label",
+                                  "50_duration tc_50_duration_label",
+                                  "35MM keycode_35_label",
+                                  "35mm3p keycode_353_label",
+                                  "f35_5 keycode_35_label_5",
+                                  "'#25' keycode_16_label_5",
+                                  "65mm-5p-80 keycode_655_80_label",
+                                  "'feet 16' foot_16_label",
+                                  "ink35 ink_35_label",
+                                  "frames film_frames_label"}) {
+    std::string const line = named;
+    auto const type = line.rfind(' ');
+    expect(
+        {{("labels show " + line.substr(0, type) + " 100 >a; labels show" + line.substr(type) + " 100 | cmp - a")
+              .c_str(),
+          ""}});
+  }
+  expect({
+      {"labels --set drop-frame=yes show 29.97 1800; labels --set drop-frame=yes show 29.97ndf 1800",
+       "00:01:00;02\n00:01:00.00\n"},
+      {"labels show 29.79 1", "", "labels: TYPE \"29.79\": unknown label type; nearest: 29.97, 239.76\n", 2},
+      {"labels show feet 1", "", "unknown label type; nearest: feet35, feet35-3p, feet16\n", 2},
+      {"labels show 35mm-3 1", "", "nearest: 35mm, 35mm-3p, 35mm-3p-4digits\n", 2},
+      {"labels show 5 1", "", "unknown rate; for the type of this number write '#5'\n", 2},
+      {"labels types DROP key-number", "name  label  other names  exchange  class  number  meaning\n",
+       "labels: no label type has all of these words\n", 1},
+      {"labels types keycode 16 --format tsv | cut -f 1,9-13",
+       "name\trate_fps\tcounted_frames_per_second\tframes_per_key\tperfs_per_frame\tperfs_per_key\n"
+       "16mm\t24\t\t20\t1\t20\n16mm-4digits\t24\t\t20\t1\t20\n16mm-5digits\t24\t\t20\t1\t20\n16mm-"
+       "6digits\t24\t\t20\t1\t20\n"},
+  });
+}
+
+TEST_F(Tool, ListsLabelsOneAfterTheOther) {
+  expect({
+      {"labels range 29.97df '00:00:59;28' '00:01:00;03' --step 2; labels add 25 23:59:59:24 1",
+       "00:00:59;28\n00:01:00;02\n00:00:00.00\n"},
+      {"labels range 25 23:59:59:23 00:00:00:01 --style exchange",
+       "23:59:59:23\n23:59:59:24\n00:00:00:00\n00:00:00:01\n"},
+      {"labels range feet35 --step -8 0001+00 -- -0000+01", "0001+00\n0000+08\n0000+00\n"},
+      {"labels range 35mm KJ1234569999+15 KJ1234560000+00", "KJ1234569999+15\nKJ1234560000+00\n"},
+      {"labels range 35mm-3p --perfs KJ1234560000+21.3 0001+00.1 --prefix KJ123456 --step 3 --format csv",
+       "label,sample\nKJ1234560000+21.3,61\nKJ1234560001+00.1,64\n"},
+      {"labels range feet35 0100+00 0099+00", "", "TO \"0099+00\": comes before FROM; turn the sign of --step", 2},
+      {"labels range 25 0 1 --step 0", "", "FROM \"0\": ", 2},
+      {"labels range 25 00:00:00:00 00:00:00:01 --step 0", "", "--step \"0\": expected frames", 2},
+      {"labels range 35mm KJ1234560000+00 EH1234560000+00", "", "from another roll than KJ123456", 2},
+      {"labels range 35mm-3p KJ1234569999+18.1 KJ1234560000+01.1", "",
+       "TO \"KJ1234560000+01.1\": leads beyond the first or last key", 2},
+      {"labels day 29.97df | sed -n '1p;1801p;$p;$='", "00:00:00;00\n00:01:00;02\n23:59:59;29\n2589408\n"},
+      {"labels day 35mm", "", "TYPE \"35mm\": film has no time of day; expected timecode", 2},
+      {"while a=$(date -u +%H:%M:%S); n=$(labels now 120 --utc); [ $a != $(date -u +%H:%M:%S) ]; do :; done;"
+       " [ ${n%.[01][0-9][0-9]} = $a ]; labels now 25 --style exchange --format json | grep -c "
+       "'\"label\":\"[0-9:]*\"'",
+       "1\n"},
+  });
+}
+
+// What other systems and people write, and what is written for them.
+TEST_F(Tool, ReadsAndWritesOtherSpellings) {
+  expect({
+      {"labels show 24 --style exchange 25 -- -25; labels show 29.97df --style exchange 1800; labels show 120 "
+       "--style exchange 1; labels show 35mm --style exchange 1",
+       "00:00:01:01\n-00:00:01:01\n00:01:00;02\n00:00:00:001\nXX0000000000+01\n"},
+      {"labels add 25 01:00:00:00 1 --style exchange", "01:00:00:01\n"},
+      {"labels read 25 '01;00;00;02' 01:00:00+02 '01:00:00;25' 01.00.00.02", "90002\n90002\n?\n?\n",
+       "labels: argument 1: \"01;00;00;02\" is read as pal_label, though \";\" before the frames means "
+       "drop-frame; others"
+       " like it are read alike\nlabels: argument 3: \"01:00:00;25\": expected \".\" or \":\" before the frames; "
+       "\";\" means"
+       " drop-frame (column 9); nearest is 01:00:00.24\nlabels: argument 4: \"01.00.00.02\": expected \":\" "
+       "before the"
+       " minutes (column 3); nearest is 01:00:00.02\n",
+       1},
+      {"labels read 29.97df '01;00;00;02' 01:00:00:02", "107894\n107894\n"},
+      {"labels read 25 --illegal nearest 00:00:00:25 01000000 x", "24\n90000\n?\n", "argument 3: \"x\": not", 1},
+      {"labels read 35mm --perfs --illegal nearest KJ1234560000+16 0001+00 --prefix KJ123456", "60\n64\n"},
+      {"labels diff 25 --illegal nearest 00:00:01:00 00:00:00:99", "1\n"},
+      {"labels read 25 --entry short --at 01:00:00:00 1:00:00 10. +15 -1:00 115 1 .. 90. +x",
+       "1500\n250\n90015\n89975\n40\n1\n?\n?\n?\n",
+       "argument 8: \"90.\": is short for 00:00:90.00: seconds run from 00 to 59", 1},
+      {"labels read 29.97df --entry short --at '01:00:00;00' +1:00:00 -- -1:0:0:1; labels read 120 --entry short "
+       "1005",
+       "109692\n2589407\n125\n"},
+      {"labels read feet35 --entry short --at 12+03 12+3 1203 12+ +3 -1+", "195\n195\n192\n198\n179\n"},
+      {"labels read 35mm-3p --entry short --prefix KJ123456 --at 1.1 12+3 12+3.2 +1+", "259\n?\n?\n",
+       "argument 2: \"12+3.2\": lies within a frame, at perforation 776", 1},
+      {"labels read 25 --entry short +5; labels read 25 --at 01:00:00:00 1", "?\n",
+       "is a sum; expected --at with the label that it counts from\nlabels: --at \"01:00:00:00\": only sums", 2},
+  });
+}
+
+TEST_F(Tool, ReadsAnyText) {
+  expect({
+      {"printf '\\357\\273\\27701:00:00:00 \\t\\r\\n \\r\\n00:00:00:01' | labels read 25", "90000\n\n1\n",
+       "line 2: blank"},
+      {"printf '01:00:00:00\\n' | iconv -t UTF-16 | labels read 25", "",
+       "labels: standard input: the text is UTF-16;", 2},
+      {"printf '01:00:00:00\\n' | iconv -t UTF-16BE | labels read 25", "", "expected UTF-8 or ASCII", 2},
+      {"echo 00:00:00:02 | labels read 25 00:00:00:01 - 00:00:00:03", "1\n2\n3\n"},
+      {"echo 1 >cut.edl; labels read 25 cut.edl", "?\n", "this is a file: read its lines with '<cut.edl'\n", 1},
+      {"labels diff 25 --origin 01:00:00:00 01:00:00:10 01:01:00:00", "10\n1500\n"},
+  });
+}
+
 TEST_F(Tool, ListsWhatTheLibraryKnows) {
   expect({{"labels types | diff \"$LISTINGS/types.txt\" -", ""},
           {"labels media | diff \"$LISTINGS/media.txt\" -", ""},
@@ -136,7 +252,7 @@ TEST_F(Tool, ExplainsWrongUsage) {
       {"labels add F35", "", "labels: LABEL is required; try 'labels add --help'\n", 2},
       {"labels add 25f 00:00:00:00 1 --perfs", "", "--perfs: pal_label does not count perforations", 2},
       {"labels read 25f -x", "", "unexpected argument \"-x\"", 2},
-      {"labels types 1", "", "unexpected argument \"1\"; try 'labels types --help'\n", 2},
+      {"labels media 1", "", "unexpected argument \"1\"; try 'labels media --help'\n", 2},
       {"labels show 25f 1 --set", "", "--set needs a value", 2},
       {"labels count 25f --edit 00:00:00.01", "", "--edit \"00:00:00.01\": expected video or film\n", 2},
       {"labels --set drop-frame types", "", "--set \"drop-frame\": expected KEY=VALUE", 2},

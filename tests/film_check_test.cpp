@@ -44,6 +44,7 @@ TEST(FilmCheck, SaysWhatIsWrongWhereAndWhatIsNearest) {
       {keycode_35_label_t,   "0123+07",              field::prefix,      reason::length,        0,  "XX0000000123+07", "this label has no prefix"},
       {keycode_35_label_t,   "KJ10123+07",           field::prefix,      reason::length,        3,  "KJ1000000123+07"},
       {keycode_35_label_t,   "KJ123456AB0123+07",    field::prefix,      reason::length,        8,  "KJ1234560123+07"},
+      {keycode_35_label_t,   "02-12-KJ-123456-1234+10", field::prefix,  reason::blank_or_dash, 2,  "KJ1234561234+10"},
       {ink_35_label_t,       "AB12-1234+05",         field::count,       reason::blank_or_dash, 4,  "AB121234+05", "without blanks or dashes"},
       {keycode_16_label_t,   "KJ 12 3456 0123 07",   field::prefix,      reason::blank_or_dash, 2,  "KJ1234560123&07"},
       {keycode_35_label_t,   "KJ1234560123\x01\x02", field::count,       reason::unprintable,   12, "KJ1234560123+00", "must be printable"},

@@ -1,4 +1,4 @@
-// types, media and choices: what the library knows, as tables.
+// media and choices: what the library knows, as tables.
 
 #include <memory>
 #include <span>
@@ -8,7 +8,6 @@
 #include "cli/commands.h"
 #include "cli/names.h"
 #include "cli/records.h"
-#include "labelcheck/range.h"
 #include "labelsbase/MediumRoll.h"
 #include "labelsbase/uiflabels.h"
 
@@ -25,48 +24,6 @@ value text_or_missing(char const* text) { return text ? value{text} : missing; }
 value family_or_missing(UserLabelType family) {
   bool const has_name = family != User_none && family != User_no_label;
   return text_or_missing(has_name ? family_name(family) : nullptr);
-}
-
-// Timecode types only have frames_per_second, types that count perforations the next three, and types with labels
-// a template.
-constexpr field type_fields[] = {
-    {"number", value_type::integer, "Number of the label type", "number"},
-    {"name", value_type::text, "Class name", "name"},
-    {"family", value_type::text, "Family: timecode, key-number, feet, ink, film-frames or any", "family",
-     may_be_missing},
-    {"exchange_name", value_type::text, "Name in decision lists", "exchange", may_be_missing},
-    {"counted_frames_per_second", value_type::integer, "Frames that a second of its labels counts", "frames/s",
-     may_be_missing},
-    {"frames_per_key", value_type::integer, "Frame numbers of a key number, ink number or foot", "frames/key",
-     may_be_missing},
-    {"perfs_per_frame", value_type::integer, "Perforations of a frame", "perfs/frame", may_be_missing},
-    {"perfs_per_key", value_type::integer, "Perforations of a key number, ink number or foot", "perfs/key",
-     may_be_missing},
-    {"template", value_type::text, "The largest digit of each place; ? is any character", "template",
-     may_be_missing},
-};
-
-exit_status types(arguments const& given, console& io) {
-  record_writer records{find_format(given.format), type_fields, io.results};
-  for (auto const& facts : labelsbase::all_label_facts) {
-    if (!*facts.name) continue;
-    auto& converter = *get_static_label_cvt(facts.type);
-    bool const has_perfs = facts.is_film() && labelcheck::counts_perforations(facts);
-    auto const& gauge = facts.film.gauge;
-    auto const number = [](bool applies, int count) { return applies ? value{count} : missing; };
-    records.write({
-        int{facts.type},
-        facts.name,
-        family_or_missing(facts.family),
-        text_or_missing(facts.exchange.written),
-        number(facts.is_timecode(), converter.get_modulus()),  // a setting may have slowed the count
-        number(has_perfs, gauge.frames_per_count()),
-        number(has_perfs, gauge.perfs_per_frame()),
-        number(has_perfs, gauge.perfs_per_count()),
-        text_or_missing(facts.has_labels() ? converter.get_template(true).text() : nullptr),
-    });
-  }
-  return all_well;
 }
 
 constexpr field media_fields[] = {
@@ -155,14 +112,6 @@ command_run listing(CLI::App& command, std::span<field const> fields,
 }
 
 }  // namespace
-
-command_run commands::declare_types(CLI::App& command) {
-  add_note(command,
-           "Types without a template are bases of others and have no labels. A template shows the largest digit\n"
-           "of each place; ? stands for any character. frames/key and perfs/key are those of a key number, an\n"
-           "ink number or a foot.");
-  return listing(command, type_fields, types);
-}
 
 command_run commands::declare_media(CLI::App& command) {
   add_note(
