@@ -162,10 +162,10 @@ void record_writer::write(std::span<value const> row) {
 void record_writer::write_line(std::span<value const> row) {
   std::string_view separator;
   for (std::size_t i = 0; i < row.size(); ++i) {
-    if (!fields_[i].heading) continue;
+    bool const is_shown = fields_[i].heading && !std::holds_alternative<std::monostate>(row[i]);
+    if (!is_shown) continue;
     out_.write(std::exchange(separator, "\t"));
-    bool const is_missing = std::holds_alternative<std::monostate>(row[i]);
-    out_.write(is_missing ? "-" : value_text{row[i]}.get());
+    out_.write(value_text{row[i]}.get());
   }
   out_.write("\n");
 }

@@ -55,7 +55,7 @@ struct field {
 // written.
 using value = std::variant<std::monostate, std::int64_t, double, bool, std::string_view>;
 
-// A value that is missing: null in JSON, empty in CSV and TSV, "-" in text.
+// A value that is missing: null in JSON, empty in CSV and TSV, "-" in a table, and left out of lines.
 inline constexpr value missing{};
 
 // How rows look as text.

@@ -122,7 +122,8 @@ std::optional<std::int64_t> conversion::film_of_video(std::int64_t video) const 
 
 std::optional<int> conversion::sample_of(std::int64_t frame) const noexcept {
   auto sample = sync_.to + frame * unit_;
-  if (day_ != 0) sample -= floor_of(sample, day_) * day_;
+  bool const is_beyond_day = day_ != 0 && (sample < 0 || sample >= day_);
+  if (is_beyond_day) sample -= floor_of(sample, day_) * day_;
   auto const fitting = as_int(sample);
   return fitting && !labelsbase::is_special_sample(*fitting) ? fitting : std::nullopt;
 }

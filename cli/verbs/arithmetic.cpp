@@ -5,7 +5,7 @@
 
 #include "cli/arguments.h"
 #include "cli/commands.h"
-#include "cli/input.h"
+#include "cli/item_records.h"
 #include "cli/label_io.h"
 #include "cli/text.h"
 #include "labelcheck/sums.h"
@@ -19,26 +19,43 @@ struct arguments {
   writing_arguments writing;
   std::string label;
   item_arguments operands;
+  std::string format;
   bool perfs = false;
   bool origin = false;
+};
+
+constexpr field add_fields[] = {
+    input_field,
+    {"label", value_type::text, "The sum", "label", may_be_missing},
+    problem_field,
+};
+
+constexpr field diff_fields[] = {
+    input_field,
+    {"count", value_type::integer, "The difference in frames; with --perfs, in perforations", "count",
+     may_be_missing},
+    problem_field,
 };
 
 exit_status add(arguments const& given, label_kind const& kind, LabelPoint const& start, console& io) {
   label_writer labels{{kind.type, kind.rate, start.prefix}, find_label_style(given.writing)};
   int const unit = samples_per_count(kind, given.perfs);
 
-  return for_each_item(given.operands, io, [&](std::string_view text) -> problem {
-    auto const amount = signed_number(text);
-    if (!amount) return std::string{"expected a whole number of "} + (given.perfs ? "perforations" : "frames");
-    auto const [sum, unsummed] = labelcheck::add_samples(start, std::int64_t{*amount} * unit);
-    if (unsummed) return unsummed;
+  return for_each_item(given.operands, find_format(given.format), add_fields, io,
+                       [&](std::string_view text, std::span<value> found) -> problem {
+                         auto const amount = signed_number(text);
+                         if (!amount)
+                           return std::string{"expected a whole number of "} +
+                                  (given.perfs ? "perforations" : "frames");
+                         auto const [sum, unsummed] = labelcheck::add_samples(start, std::int64_t{*amount} * unit);
+                         if (unsummed) return unsummed;
 
-    std::string_view label;
-    if (auto wrong = labels.write(sum, label))
-      return "leads to sample " + std::to_string(sum) + ", which " + *wrong;
-    io.results.line(label);
-    return std::nullopt;
-  });
+                         std::string_view label;
+                         if (auto wrong = labels.write(sum, label))
+                           return "leads to sample " + std::to_string(sum) + ", which " + *wrong;
+                         found[0] = label;
+                         return std::nullopt;
+                       });
 }
 
 exit_status diff(arguments const& given, label_kind const& kind, LabelPoint const& a, console& io) {
@@ -46,24 +63,26 @@ exit_status diff(arguments const& given, label_kind const& kind, LabelPoint cons
   int const unit = samples_per_count(kind, given.perfs);
   LabelPoint b{kind.type, 0};
 
-  return for_each_item(given.operands, io, [&](std::string_view text) -> problem {
-    label_parts label;
-    if (auto wrong = labels.read(text, label)) return wrong;
-    if (label.prefix != a.prefix)
-      return std::string{"the prefix is "}.append(label.prefix) + ", from another roll than " + a.prefix;
-    if (!labelcheck::is_sample(std::int64_t{a.sample} - label.sample) ||
-        !labelcheck::is_sample(std::int64_t{label.sample} - a.sample))
-      return "the difference is beyond the range of samples, -2147483648 to 2147483647";
+  return for_each_item(given.operands, find_format(given.format), diff_fields, io,
+                       [&](std::string_view text, std::span<value> found) -> problem {
+                         label_parts label;
+                         if (auto wrong = labels.read(text, label)) return wrong;
+                         if (label.prefix != a.prefix)
+                           return std::string{"the prefix is "}.append(label.prefix) +
+                                  ", from another roll than " + a.prefix;
+                         if (!labelcheck::is_sample(std::int64_t{a.sample} - label.sample) ||
+                             !labelcheck::is_sample(std::int64_t{label.sample} - a.sample))
+                           return "the difference is beyond the range of samples, -2147483648 to 2147483647";
 
-    b.sample = label.sample;
-    set_prefix(b, label.prefix);
-    int const samples = (given.origin ? b - a : a - b).sample;
-    if (samples % unit != 0)
-      return "the difference of " + std::to_string(samples) +
-             " perforations is not a whole number of frames; use --perfs to show it";
-    io.results.line(samples / unit);
-    return std::nullopt;
-  });
+                         b.sample = label.sample;
+                         set_prefix(b, label.prefix);
+                         int const samples = (given.origin ? b - a : a - b).sample;
+                         if (samples % unit != 0)
+                           return "the difference of " + std::to_string(samples) +
+                                  " perforations is not a whole number of frames; use --perfs to show it";
+                         found[0] = samples / unit;
+                         return std::nullopt;
+                       });
 }
 
 using operation = exit_status (*)(arguments const&, label_kind const&, LabelPoint const&, console&);
@@ -95,8 +114,10 @@ command_run commands::declare_add(CLI::App& command) {
             given->operands);
   add_reading(command, given->reading);
   add_writing(command, given->writing);
-  add_examples(command, {"add 35mm KJ1234560123+07 100", "add 29.97df '00:00:59;29' 1",
-                         "add 35mm-3p --perfs KJ1234560000+00.1 21"});
+  add_format(command, given->format, add_fields);
+  add_examples(command, {{"add 35mm KJ1234560123+07 100", "KJ1234560129+11"},
+                         {"add 29.97df '00:00:59;29' 1", "00:01:00;02"},
+                         {"add 35mm-3p --perfs KJ1234560000+00.1 21", "KJ1234560000+07.1"}});
   return [given](console& io) { return run(*given, "LABEL", add, io); };
 }
 
@@ -112,8 +133,10 @@ command_run commands::declare_diff(CLI::App& command) {
             given->operands);
   add_flag(command, "--origin", given->origin, "A is the origin of all: show B - A");
   add_reading(command, given->reading);
-  add_examples(command, {"diff 25 01:00:10:00 01:00:00:00", "diff 25 --origin 01:00:00:00 01:00:10:00 01:02:00:00",
-                         "diff 35mm KJ1234560123+07 KJ1234560000+00"});
+  add_format(command, given->format, diff_fields);
+  add_examples(command, {{"diff 25 01:00:10:00 01:00:00:00", "250"},
+                         {"diff 25 --origin 01:00:00:00 01:00:10:00 01:02:00:00", "250\n3000"},
+                         {"diff 35mm KJ1234560123+07 KJ1234560000+00", "1975"}});
   return [given](console& io) { return run(*given, "A", diff, io); };
 }
 

@@ -140,7 +140,9 @@ command_run commands::declare_cadence(CLI::App& command) {
   add_flag(command, "--drop", given->drop, "In the picture: drop-frame timecode");
   add_option(command, "--film", "TYPE [F35]", given->film_type, "In the picture: type of the key numbers");
   add_option(command, "--key", "LABEL [0000+00]", given->key, "In the picture: key number of film frame 1");
-  add_examples(command, {"cadence --transfer 2:3 --phase 2 --frames 24",
+  add_examples(command, {{"cadence --transfer 2:3 --phase 1 --frames 12",
+                          "film   1  2     3  4  5  6     7  8  9 10    11 12\n       A  B  +  C  D  A  B  +  C  "
+                          "D  A  B  +  C  D\nvideo  1  2  3  4  5  6  7  8  9 10 11 12 13 14 15"},
                          "cadence --transfer 24:25 --svg cadence.svg --key 1234+00"});
   return [given](console& io) { return run(*given, io); };
 }

@@ -110,8 +110,9 @@ command_run commands::declare_count(CLI::App& command) {
              " that follow. With --back, the phase of key 0");
   add_flag(command, "--phases", given->phases,
            "Show phases too: that of the pulldown at the frame, and that of key 0 or, with --back, of the key");
-  add_examples(command, {"count 30f-drop --transfer 2:3 --edit film '01:00:00;00'", "count F35 1234+07",
-                         "count 25f --back 90001"});
+  add_examples(command, {{"count 29.97df --transfer 2:3 --edit film '01:00:00;00'", "86314"},
+                         {"count 35mm 1234+07", "19752"},
+                         {"count 25 --back 90001", "01:00:00.00"}});
   return [given](console& io) { return count(*given, io); };
 }
 

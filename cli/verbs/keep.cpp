@@ -210,8 +210,12 @@ command_run commands::declare_keep(CLI::App& command) {
       ->needs(writes);
   add_flag(command, "--unbounded", given->unbounded, "Let it answer for offsets outside its length too")
       ->needs(writes);
-  add_examples(command, {"keep --write 25f --start 01:00:00:00 --length 250 --roll 20,2",
-                         "keep 'LABEL_REV:1 pal_label 01:00:00.00 250 0.04 1 MediumRollId 20,2'"});
+  add_examples(command, {{"keep --write 25 --start 01:00:00:00 --length 250 --roll 20,2",
+                          "LABEL_REV:1 pal_label  01:00:00.00 250 0.0400000000 1 MediumRollId 20,2"},
+                         {"keep 'LABEL_REV:1 pal_label 01:00:00.00 250 0.04 1 MediumRollId 20,2'",
+                          "revision          1\ntype              pal_label\nstart             01:00:00.00, "
+                          "sample 90000\nlength            250, samples 250\nseconds per unit  0.04, natural "
+                          "0.04\nbounded           yes\nmedium and roll   20,2, 25i,1stGen"}});
   return [given](console& io) {
     if (given->type) return write(*given, io);
     item_loop items{given->texts, io};

@@ -8,7 +8,7 @@
 
 #include "cli/arguments.h"
 #include "cli/commands.h"
-#include "cli/input.h"
+#include "cli/item_records.h"
 #include "cli/names.h"
 #include "cli/text.h"
 #include "labelsbase/labels.h"
@@ -51,8 +51,15 @@ struct clock_arguments {
   item_arguments seconds;
   std::optional<std::string> project_rate;
   std::optional<std::string> output_rate;
+  std::string format;
   bool pulled_down = false;
   bool back = false;
+};
+
+constexpr field clock_fields[] = {
+    input_field,
+    {"seconds", value_type::number, "Cel time in seconds; with --back, clock time", "seconds", may_be_missing},
+    problem_field,
 };
 
 // Sets what the options name, as --set does. Reports every error; returns false if there was one.
@@ -75,14 +82,15 @@ exit_status clock(clock_arguments const& given, console& io) {
   if (!apply_options(given, io)) return failed;
   MPosn_Xlate_Params project{Kiv::OutputGearing{1}};
 
-  return for_each_item(given.seconds, io, [&](std::string_view text) -> problem {
-    auto const seconds = decimal(text);
-    if (!seconds || !(std::abs(*seconds) < labelsbase::invalid_posn))
-      return "expected seconds, for example 3600 or -0.04, between -1e99 and 1e99";
-    io.results.line(shortest(given.back ? mPosn_Xlate_CelToClock(*seconds, project)
-                                        : mPosn_Xlate_ClockToCel(*seconds, project)));
-    return std::nullopt;
-  });
+  return for_each_item(given.seconds, find_format(given.format), clock_fields, io,
+                       [&](std::string_view text, std::span<value> found) -> problem {
+                         auto const seconds = decimal(text);
+                         if (!seconds || !(std::abs(*seconds) < labelsbase::invalid_posn))
+                           return "expected seconds, for example 3600 or -0.04, between -1e99 and 1e99";
+                         found[0] = given.back ? mPosn_Xlate_CelToClock(*seconds, project)
+                                               : mPosn_Xlate_ClockToCel(*seconds, project);
+                         return std::nullopt;
+                       });
 }
 
 }  // namespace
@@ -91,7 +99,16 @@ command_run commands::declare_pitch(CLI::App& command) {
   auto const given = std::make_shared<pitch_arguments>();
   add_type(command, given->type);
   add_required(command, "MEDIUM", given->medium, "Number (22) or name (src_2997p) from 'labels media'");
-  add_examples(command, {"pitch 30f-drop src_2997p", "pitch F35 film"});
+  add_examples(
+      command,
+      {{"pitch 29.97df src_2997p",
+        "label type          ntsc_drop_label\nmedium              src_2997p (22)\nseconds per sample  "
+        "0.03336666666666667\nsamples per second  29.970029970029966\nnatural             "
+        "0.03336666666666667\nwhy                 the medium runs slower than the labels count, by 1000/1001"},
+       {"pitch 35mm film",
+        "label type          keycode_35_label\nmedium              film (2)\nseconds per sample  "
+        "0.010416666666666666\nsamples per second  96\nnatural             0.010416666666666666\nwhy              "
+        "   no medium changes the speed of this type"}});
   return [given](console& io) { return pitch(*given, io); };
 }
 
@@ -103,8 +120,9 @@ command_run commands::declare_clock(CLI::App& command) {
              "Frame rate of the output; without it, the setting gearing-rate counts");
   add_flag(command, "--pulled-down", given->pulled_down, "Film is output through a pulldown");
   add_flag(command, "--back", given->back, "Convert cel time to clock time");
-  add_examples(command, {"clock --project-rate 24 --output-rate 29.97 3600",
-                         "clock --project-rate 24 --output-rate 29.97 --pulled-down --back 1"});
+  add_format(command, given->format, clock_fields);
+  add_examples(command, {{"clock --project-rate 24 --output-rate 29.97 3600", "4495.504495504496"},
+                         {"clock --project-rate 24 --output-rate 29.97 --pulled-down --back 1", "1.001"}});
   return [given](console& io) { return clock(*given, io); };
 }
 
