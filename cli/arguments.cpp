@@ -63,6 +63,10 @@ CLI::Option* add_flag(CLI::App& command, char const* name, bool& flag, char cons
   return command.add_flag(name, flag, wrapped(meaning));
 }
 
+CLI::Option* add_flag(CLI::App& command, char const* name, std::string& value, char const* meaning) {
+  return command.add_flag(name, value, wrapped(meaning));
+}
+
 void add_examples(CLI::App& command, std::initializer_list<example> examples) {
   std::string text{"Examples:"};
   for (auto const& [line, output] : examples) {

@@ -33,6 +33,9 @@ CLI::Option* add_option(CLI::App& command, char const* name, char const* shape, 
 // Declares an option without a value.
 CLI::Option* add_flag(CLI::App& command, char const* name, bool& flag, char const* meaning);
 
+// Declares an option that may have a value behind "=". Without one, `value` becomes "true".
+CLI::Option* add_flag(CLI::App& command, char const* name, std::string& value, char const* meaning);
+
 // An example of a command, and what it writes to standard output and standard error: {"show 25 90000",
 // "01:00:00.00"}. A test runs those whose output is given.
 struct example {

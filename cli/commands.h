@@ -24,6 +24,7 @@ class App;
   row(day,     "List all labels of a day")                                              \
   row(now,     "Show the label of the time of day")                                     \
   row(check,   "Check decision lists, logs and sheets")                                 \
+  row(rewrite, "Write a list, a log or any text with labels of another type")           \
   row(keep,    "Explain or write keep strings, the text form in which hosts store labels") \
   row(count,   "Count film or video frames, across a pulldown if there is one")         \
   row(cadence, "Show which film frame each video frame of a pulldown comes from")       \

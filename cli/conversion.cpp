@@ -137,14 +137,29 @@ labelconvert::conversion label_converter::plan(conversion_arguments const& given
 label_converter::label_converter(conversion_arguments const& given, console& io)
     : tracks_{find_tracks(given)},
       conversion_{plan(given, tracks_)},
+      lengths_{plan(given, {tracks_.from, tracks_.to, {}})},
       reader_{tracks_.from, given.reading, io},
       writer_{tracks_.to, find_label_style(given.writing)},
       exact_only_{given.exact} {}
 
 problem label_converter::convert(std::string_view text, std::string_view& label) {
+  return convert(conversion_, text, label);
+}
+
+problem label_converter::convert_length(std::string_view text, std::string_view& label) {
+  return convert(lengths_, text, label);
+}
+
+std::optional<int> label_converter::length(int samples) const noexcept {
+  auto const found = lengths_.of(samples);
+  return found ? std::optional{found->sample} : std::nullopt;
+}
+
+problem label_converter::convert(labelconvert::conversion const& how, std::string_view text,
+                                 std::string_view& label) {
   label_parts parts;
   if (auto wrong = reader_.read(text, parts)) return wrong;
-  auto const found = conversion_.of(parts.sample);
+  auto const found = how.of(parts.sample);
   if (!found) return std::string{"leads beyond the labels of "} + labelsbase::facts_of(tracks_.to.type).name;
   if (exact_only_ && !found->is_exact()) return falls_between(*found);
   is_exact_ = found->is_exact();

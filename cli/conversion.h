@@ -48,6 +48,13 @@ class label_converter {
   // the next call.
   [[nodiscard]] problem convert(std::string_view text, std::string_view& label);
 
+  // As convert, for a label that says a length: the sync point does not move it.
+  [[nodiscard]] problem convert_length(std::string_view text, std::string_view& label);
+
+  // Returns the samples that a length in samples of the first type takes in the other, or nothing if they do not
+  // fit.
+  [[nodiscard]] std::optional<int> length(int samples) const noexcept;
+
   // Whether a frame begins at the instant of the label that was converted last.
   [[nodiscard]] bool is_exact() const noexcept { return is_exact_; }
 
@@ -60,10 +67,13 @@ class label_converter {
 
   [[nodiscard]] static tracks find_tracks(conversion_arguments const& given);
   [[nodiscard]] static labelconvert::conversion plan(conversion_arguments const& given, tracks const& both);
+  [[nodiscard]] problem convert(labelconvert::conversion const& how, std::string_view text,
+                                std::string_view& label);
   [[nodiscard]] problem falls_between(labelconvert::answer const& found);
 
   tracks tracks_;
   labelconvert::conversion conversion_;
+  labelconvert::conversion lengths_;  // from zero to zero
   label_reader reader_;
   label_writer writer_;
   bool exact_only_;

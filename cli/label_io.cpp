@@ -215,8 +215,9 @@ bool label_reader::lacks_prefix(std::string_view text) const noexcept {
 // --- Writing ---
 
 void add_writing(CLI::App& command, writing_arguments& given) {
+  auto const shape = "own|exchange [" + given.style + "]";
   add_option(
-      command, "--style", "own|exchange [own]", given.style,
+      command, "--style", shape.c_str(), given.style,
       "How timecode is written. exchange: hh:mm:ss:ff as other systems write it, with \";\" before the frames"
       " for drop-frame only");
 }

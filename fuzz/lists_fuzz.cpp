@@ -8,6 +8,7 @@
 
 #include "fuzz/fuzz_input.h"
 #include "lists/check.h"
+#include "lists/label_finder.h"
 
 extern int const fuzz_numbers = 1;
 
@@ -44,13 +45,28 @@ std::vector<std::size_t> line_lengths(std::string const& text) {
   return lengths;
 }
 
+void find_labels(label_t type, std::string const& text) {
+  if (!labelsbase::facts_of(type).has_labels()) return;
+  lists::label_finder const labels{type};
+  std::size_t end = 0;
+  while (auto const label = labels.next(text, end)) {
+    demand(label->at >= end && label->size > 0, "a label is behind the one before", text);
+    end = label->at + label->size;
+    demand(end <= text.size(), "a label is within the text", text);
+    auto const again = labels.next(std::string_view{text}.substr(0, end), label->at);
+    demand(again && again->at == label->at && again->size == label->size, "a label is found by itself", text);
+  }
+}
+
 }  // namespace
 
 int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
   constexpr char const* rates[] = {"", "24", "25", "29.97df", "60"};
   fuzz_input input{data, size};
-  std::string const rate = rates[input.number<std::uint32_t>() % std::size(rates)];
+  auto const choice = input.number<std::uint32_t>();
+  std::string const rate = rates[choice % std::size(rates)];
   auto const text = input.rest();
+  find_labels(static_cast<label_t>(choice % numLabelCvts), text);
   auto const lengths = line_lengths(text);
 
   text_file const file{text};

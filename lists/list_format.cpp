@@ -10,14 +10,6 @@
 namespace lists {
 namespace {
 
-// Takes the first line off a text.
-std::string_view take_line(std::string_view& text) noexcept {
-  auto const size = text.find_first_of("\r\n");
-  auto const taken = text.substr(0, size);
-  text.remove_prefix(size == std::string_view::npos ? text.size() : size + 1);
-  return taken;
-}
-
 bool has_label(std::string_view row, char delimiter) noexcept {
   row_splitter cells{delimiter, delimiter != '\t'};
   cells.start({.text = row});

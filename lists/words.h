@@ -39,6 +39,16 @@ namespace lists {
   return word;
 }
 
+// Takes the first line off a text, without its end.
+[[nodiscard]] constexpr std::string_view take_line(std::string_view& text) noexcept {
+  auto const size = std::min(text.find_first_of("\r\n"), text.size());
+  auto const line = text.substr(0, size);
+  text.remove_prefix(size);
+  if (text.starts_with('\r')) text.remove_prefix(1);
+  if (text.starts_with('\n')) text.remove_prefix(1);
+  return line;
+}
+
 // Whether both texts are the same letters, in either case.
 [[nodiscard]] constexpr bool same_letters(std::string_view a, std::string_view b) noexcept {
   return std::ranges::equal(a, b, {}, labelsbase::to_upper, labelsbase::to_upper);
