@@ -80,6 +80,43 @@ TEST(HostClass, MayOverrideTheSamplesOfAFrame) {
   EXPECT_EQ(long_frames<keycode_35_label>{}.normalise_sample_unit(-1), 10'000 * 16 * 8 - 1);
 }
 
+// A class below the library's is asked for everything. Both find the same labels, whole and odd ones.
+template <class Film>
+void expect_the_labels_of_the_shared_one() {
+  struct : Film {
+  } own;
+  auto& common = shared(Film::kind);
+  for (char const* prefix : {"KJ1234560000+00",
+                             "K\xE9\x01\x80\xFF"
+                             "456",
+                             "AB", ""}) {
+    LabelPoint a{own, 0}, b{common, 0};
+    for (auto* point : {&a, &b}) std::strncpy(point->prefix, prefix, LabelPoint::prefix_length);
+    for (std::int64_t sample = INT_MIN; sample <= INT_MAX;
+         sample += std::abs(sample) < 800'000 ? 4'999 : 99'999'991) {
+      a.sample = b.sample = static_cast<int>(sample);
+      std::string const text = a.get_string();
+      ASSERT_EQ(b.get_string(), text) << own.type_str() << ' ' << sample;
+      for (std::size_t at = 0; at <= text.size(); ++at)
+        for (char const c : {'\0', '9', ' ', '-', '_'}) {
+          auto changed = text;
+          if (at < text.size())
+            changed[at] = c;
+          else
+            changed += c;
+          ASSERT_EQ(common.get_abs_sample(changed.c_str()), own.get_abs_sample(changed.c_str())) << changed;
+        }
+    }
+  }
+}
+
+TEST(HostClass, FindsTheLabelsOfTheSharedConverter) {
+  expect_the_labels_of_the_shared_one<keycode_35_label>();
+  expect_the_labels_of_the_shared_one<keycode_353_label_5>();
+  expect_the_labels_of_the_shared_one<keycode_16_label_6>();
+  expect_the_labels_of_the_shared_one<ink_16_label>();
+}
+
 TEST(Registers, HoldTheLastConversion) {
   LabelPoint point{pal_label_t, 0};
   for (auto const type : {pal_label_t, ntsc_drop_label_t, tc_240_label_t}) {

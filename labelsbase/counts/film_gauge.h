@@ -48,6 +48,17 @@ class film_gauge {
         has_whole_frames_{perfs_per_count_ % per_frame_.divisor() == 0},
         per_count_{has_whole_frames_ ? frames_per_count_ : perfs_per_count_} {}
 
+  // Returns the gauge of keys (feet, ink numbers) of so many whole frames. Both from 1 up; numbers below 1 count
+  // as 1. Perforations of a key beyond 32 bits wrap.
+  [[nodiscard]] static constexpr film_gauge of_whole_frames(int perfs_per_frame, int frames_per_count) noexcept {
+    film_gauge gauge;
+    gauge.per_frame_ = reciprocal{perfs_per_frame};
+    gauge.per_count_ = reciprocal{frames_per_count};
+    gauge.frames_per_count_ = gauge.per_count_.divisor();
+    gauge.perfs_per_count_ = wrap_mul(gauge.frames_per_count_, gauge.perfs_per_frame());
+    return gauge;
+  }
+
   [[nodiscard]] constexpr int perfs_per_frame() const noexcept { return per_frame_.divisor(); }
 
   // Returns the perforations from one key (foot, ink number) to the next.
@@ -61,10 +72,11 @@ class film_gauge {
 
   // Returns the place of a perforation. Below zero, whole frames round toward key 0 and 3-perf rounds down.
   [[nodiscard]] constexpr film_place split(int perfs) const noexcept {
-    if (!has_whole_frames_) return split_within_frames(perfs);
-    int const frames = per_frame_.quotient(perfs);
-    int const count = per_count_.quotient(frames);
-    return {count, frames - count * frames_per_count_, 0};
+    if (!has_whole_frames_) [[unlikely]]
+      return split_within_frames(perfs);
+    if (perfs >= 0) return split_whole_frames(static_cast<unsigned>(perfs));
+    auto const at = split_whole_frames(0U - static_cast<unsigned>(perfs));
+    return {wrap_negate(at.count), wrap_negate(at.frame), 0};
   }
 
   // Returns the perforation of a place, whatever it holds: the first one of the frame, or at 3-perf the very one.
@@ -74,13 +86,20 @@ class film_gauge {
   }
 
  private:
+  // Splits a magnitude from 0 to 2^31.
+  [[nodiscard]] constexpr film_place split_whole_frames(unsigned perfs) const noexcept {
+    unsigned const frames = per_frame_.quotient_of_magnitude(perfs);
+    unsigned const count = per_count_.quotient_of_magnitude(frames);
+    unsigned const frame = frames - count * static_cast<unsigned>(frames_per_count_);
+    return {static_cast<int>(count), static_cast<int>(frame), 0};
+  }
+
   [[nodiscard]] constexpr film_place split_within_frames(int perfs) const noexcept {
     int const last_perf = perfs_per_frame() - 1;
     int const shifted = wrap_add(perfs, last_perf);  // key 0 begins at 0
-    int count = per_count_.quotient(shifted);
-    count -= count * perfs_per_count_ > shifted;  // rounds down below zero
+    int const count = shifted >= 0 ? per_count_.quotient(shifted) : -1 - per_count_.quotient(-1 - shifted);
     int const in_count = shifted - count * perfs_per_count_;
-    int const frame = per_frame_.quotient(in_count);
+    int const frame = static_cast<int>(per_frame_.quotient_of_magnitude(static_cast<unsigned>(in_count)));
     return {count, frame, last_perf - (in_count - frame * perfs_per_frame())};
   }
 

@@ -1,7 +1,6 @@
 // Division by one divisor, many times over.
 #pragma once
 
-#include <bit>
 #include <cstdint>
 
 #include "host/language.h"
@@ -18,9 +17,7 @@ class reciprocal {
 
   // A divisor below 1 counts as 1.
   constexpr explicit reciprocal(int divisor) noexcept
-      : divisor_{divisor < 1 ? 1 : divisor},
-        shift_{32U + static_cast<unsigned>(std::bit_width(static_cast<unsigned>(divisor_) - 1))},
-        multiplier_{multiplier_of(static_cast<unsigned>(divisor_), shift_)} {}
+      : divisor_{divisor < 1 ? 1 : divisor}, multiplier_{~std::uint64_t{0} / static_cast<unsigned>(divisor_)} {}
 
   [[nodiscard]] constexpr int divisor() const noexcept { return divisor_; }
 
@@ -29,23 +26,19 @@ class reciprocal {
     return static_cast<int>(0U - quotient_of_magnitude(0U - static_cast<unsigned>(dividend)));
   }
 
-  // Divides a magnitude from 0 to 2^31.
+  // Divides any magnitude.
   [[nodiscard]] constexpr unsigned quotient_of_magnitude(unsigned dividend) const noexcept {
-    return static_cast<unsigned>((dividend * multiplier_) >> shift_);
+    return static_cast<unsigned>((product{std::uint64_t{dividend} + 1} * multiplier_) >> 64);
   }
 
  private:
-  // Returns 2^shift / divisor rounded up, which has at most 33 bits.
-  [[nodiscard]] static constexpr std::uint64_t multiplier_of(unsigned divisor, unsigned shift) noexcept {
-    auto const high = (std::uint64_t{1} << (shift - 32)) / divisor;  // schoolbook division, 32 bits at a time
-    auto const rest = (std::uint64_t{1} << (shift - 32)) % divisor;
-    auto const low = ((rest << 32) + divisor - 1) / divisor;
-    return (high << 32) + low;
-  }
+  // The quotient is its upper half, which processors have in a register of its own.
+  __extension__ using product = unsigned __int128;
 
+  // The multiplier is rounded down. One more than the dividend makes up for that: it adds 1 / divisor, and what
+  // rounding takes away is less, as long as dividends have 32 bits.
   int divisor_;
-  unsigned shift_;
-  std::uint64_t multiplier_;
+  std::uint64_t multiplier_;  // (2^64 - 1) / divisor
 };
 
 }  // namespace labelsbase

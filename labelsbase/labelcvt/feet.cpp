@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "labelsbase/labelcvt/film_columns.h"
 #include "labelsbase/samples.h"
 #include "labelsbase/support/text.h"
 
@@ -11,12 +12,39 @@ namespace {
 
 constexpr film_gauge three_perf = facts_of(foot_353_label_t).film.gauge;
 
+bool has_sign_column(LabelPoint const& point) noexcept { return *point.label_template.text() == '-'; }
+
+struct parts {
+  bool negative;
+  int feet, frames;
+};
+
+// Reads any text behind its sign. A function of its own: labels that fill their columns need no stack.
+[[gnu::noinline]] parts read_any_parts(char const* text, bool negative) noexcept {
+  // Deliberate: passes over a number that begins right here, so one behind a blank is read twice.
+  text_reader in{text};
+  auto const feet = in.number();
+  if (feet && !is_blank(*text)) text = in.rest();
+  if (*text) ++text;
+  return {negative, feet.value_or(0), text_reader{text}.number().value_or(0)};
+}
+
+inline parts read_parts(char const* text) noexcept {
+  while (is_blank(*text)) ++text;
+  bool const negative = *text == '-';
+  text += negative;
+  parts read{negative, 0, 0};
+  bool const fills_columns = read_count_and_frame(text, 4, read.feet, read.frames) && !is_digit(text[7]);
+  return fills_columns ? read : read_any_parts(text, negative);
+}
+
 }  // namespace
 
 foot_label::foot_label(int frames_per_foot, int perfs_per_frame, int feet_digits)
     : variable_label{std::max(frames_per_foot, 1), perfs_per_frame},
       feet_digits_{feet_digits},
-      perfs_per_frame_{std::max(perfs_per_frame, 1)} {
+      perfs_per_frame_{std::max(perfs_per_frame, 1)},
+      gauge_{film_gauge::of_whole_frames(perfs_per_frame, frames_per_foot)} {
   foot_label::build_template();
 }
 
@@ -38,9 +66,13 @@ void foot_label::set_shape(char const* frames) noexcept {
 }
 
 int foot_label::feet_limit() const noexcept {
-  int limit = 10;
-  for (int i = 0; i < std::clamp(feet_digits_, 0, 8); ++i) limit *= 10;
-  return limit;
+  return static_cast<int>(int_powers_of_ten[static_cast<std::size_t>(std::clamp(feet_digits_, 0, 8)) + 1]);
+}
+
+bool foot_label::fills_columns(film_place const& at) const noexcept {
+  return feet_digits_ > 0 && feet_digits_ < 10 &&
+         static_cast<unsigned>(at.count) < int_powers_of_ten[static_cast<std::size_t>(feet_digits_)] &&
+         static_cast<unsigned>(at.frame) < 100;
 }
 
 char const* foot_label::get_abs_string(LabelPoint* point, int perfs) {
@@ -50,30 +82,26 @@ char const* foot_label::get_abs_string(LabelPoint* point, int perfs) {
 int foot_label::get_abs_sample(char const* text) { return feet_to_samples(text); }
 
 char const* foot_label::samples_to_feet(LabelPoint* point, int perfs) {
-  if (!point) return "";
-  // By the fields, which hosts' classes may set.
-  int const frames = wrap_magnitude(perfs) / std::max(perfs_per_frame_, 1);
-  int const frames_per_foot = std::max(modulus_, 1);
-  int feet = frames / frames_per_foot;
-  if (int const limit = feet_limit(); feet >= limit) feet -= limit;
-
-  text_writer out{point->text};
-  if (*point->label_template.text() == '-') out.put(perfs < 0 ? '-' : ' ');
-  out.number(feet, feet_digits_).put('+').number(frames % frames_per_foot, 2);
+  if (!point || !has_own_gauge()) return write_any(point, perfs);
+  auto const at = gauge_.split(wrap_magnitude(perfs));
+  if (!fills_columns(at)) return write_any(point, perfs);
+  int const digits = feet_digits_;
+  char* out = point->text;
+  if (has_sign_column(*point)) *out++ = perfs < 0 ? '-' : ' ';
+  *put_count_and_frame(out, at.count, digits, '+', at.frame) = '\0';
   return point->text;
 }
 
-foot_label::parts foot_label::read_parts(char const* text) noexcept {
-  while (is_blank(*text)) ++text;
-  bool const negative = *text == '-';
-  text += negative;
-
-  // Deliberate: passes over a sign and digits that begin right here, so a number behind a blank is read twice.
-  auto const feet = text_reader{text}.number();
-  if (feet && (*text == '+' || *text == '-')) ++text;
-  while (is_digit(*text)) ++text;
-  if (*text) ++text;
-  return {negative, feet.value_or(0), text_reader{text}.number().value_or(0)};
+// A function of its own: labels that fill their columns need no stack.
+[[gnu::noinline]] char const* foot_label::write_any(LabelPoint* point, int perfs) const {
+  if (!point) return "";
+  auto [feet, frame, perfs_left] =
+      film_gauge::of_whole_frames(perfs_per_frame_, modulus_).split(wrap_magnitude(perfs));
+  if (int const limit = feet_limit(); feet >= limit) feet -= limit;
+  text_writer out{point->text};
+  if (has_sign_column(*point)) out.put(perfs < 0 ? '-' : ' ');
+  out.number(feet, feet_digits_).put('+').number(frame, 2);
+  return point->text;
 }
 
 int foot_label::feet_to_samples(char const* text) {

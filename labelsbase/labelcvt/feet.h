@@ -21,6 +21,7 @@
 //   cvt.get_abs_sample("nonsense")      // 0: every text reads as a number
 #pragma once
 
+#include "labelsbase/counts/film_gauge.h"
 #include "labelsbase/export.h"
 #include "labelsbase/labelcvt/concrete_label.h"
 #include "labelsbase/labelcvt/label_cvt.h"
@@ -57,12 +58,6 @@ class LABELSBASE_API foot_label : public variable_label {
   // Feet of the gauge of `type`, one of the types of feet.
   explicit foot_label(label_t type);
 
-  struct parts {
-    bool negative;
-    int feet, frames;
-  };
-  [[nodiscard]] static parts read_parts(char const* text) noexcept;
-
   // Returns the feet at which labels start again, once. Deliberate: ten times what the field shows, 100000 for 4
   // digits.
   [[nodiscard]] int feet_limit() const noexcept;
@@ -77,6 +72,20 @@ class LABELSBASE_API foot_label : public variable_label {
   labelsbase::scratch_register feet_;
   labelsbase::scratch_register frame_;
   labelsbase::scratch_register remainder_;
+
+ private:
+  // Whether the gauge still has the numbers of the fields, which hosts' classes may set.
+  [[nodiscard]] bool has_own_gauge() const noexcept {
+    return gauge_.perfs_per_frame() == perfs_per_frame_ && gauge_.frames_per_count() == modulus_;
+  }
+
+  // Whether feet and frame have as many digits as their columns.
+  [[nodiscard]] LABELSBASE_LOCAL bool fills_columns(labelsbase::film_place const& at) const noexcept;
+
+  // Writes labels that do not fill their columns, and those of hosts' classes.
+  LABELSBASE_LOCAL char const* write_any(LabelPoint* point, int perfs) const;
+
+  labelsbase::film_gauge gauge_;
 };
 
 class LABELSBASE_API foot_35_label : public labelsbase::concrete_label<foot_35_label_t, foot_label> {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "labelsbase/labelcvt/film_columns.h"
 #include "labelsbase/samples.h"
 #include "labelsbase/support/text.h"
 
@@ -13,9 +14,10 @@ namespace {
 // An ink number of 11 characters. A shorter text gets up to 4 zeros in front; a longer one loses its middle.
 class ink_text {
  public:
-  explicit ink_text(char const* text) noexcept {
+  explicit ink_text(char const* text) noexcept : ink_text{text, std::strlen(text)} {}
+
+  ink_text(char const* text, std::size_t length) noexcept {
     text_writer out{text_};
-    auto const length = std::strlen(text);
     if (length < whole) {
       for (auto zeros = std::min<std::size_t>(whole - length, prefix); zeros > 0; --zeros) out.put('0');
       out.put(text);
@@ -55,22 +57,36 @@ label_t ink_label::type() const { return ink_label_t; }
 UserLabelType ink_label::UserType() const { return User_ink; }
 int ink_label::normalise_sample_unit(int perfs) { return wrap_to_counts(perfs); }
 
-int ink_label::perfs_per_frame() const { return std::max(samples_per_unit(), 1); }
+film_gauge ink_label::gauge() const { return film_gauge::of_whole_frames(samples_per_unit(), modulus_); }
 
-void ink_label::get_counts(int perfs) {
-  int const frames = perfs / perfs_per_frame();
-  count_ = frames / modulus_;
-  frame_ = frames % modulus_;
-}
+void ink_label::get_counts(int perfs) { remember(gauge().split(perfs)); }
 
 char const* ink_label::get_abs_string(LabelPoint* point, int perfs) {
+  if (!fills_columns(point, perfs)) return write_any(point, perfs);
+  auto const at = gauge_.split(perfs);
+  remember(at);
+  return write_columns(point, at.count, at.frame);
+}
+
+[[gnu::noinline]] char const* ink_label::write_any(LabelPoint* point, int perfs) {
   if (is_special_sample(perfs)) return get_invalid_string(point, perfs);
   get_counts(perfs);
   return write_label(point, count_, frame_, separator_);
 }
 
 int ink_label::get_abs_sample(char const* text) {
-  ink_text const label{or_empty(text)};
+  text = or_empty(text);
+  auto const length = std::strlen(text);
+  int count = 0;
+  int frame = 0;
+  if (!has_columns(length) ||
+      !read_count_and_frame(text + prefix_length_, static_cast<int>(count_length_), count, frame))
+    return read_any(text, length);
+  return frame < modulus_ ? gauge_.join({count, frame, 0}) : invalid_sample;
+}
+
+[[gnu::noinline]] int ink_label::read_any(char const* text, std::size_t text_length) {
+  ink_text const label{text, text_length};
   int const count = read_count(label.c_str(), label.length(), '\0');
   if (count < 0) return invalid_sample;
 
@@ -81,7 +97,7 @@ int ink_label::get_abs_sample(char const* text) {
     frame = text_reader{label.c_str() + count_end + 1}.number().value_or(0);
   }
   if (frame < 0 || frame >= modulus_) return invalid_sample;
-  return wrap_mul(perfs_per_frame(), wrap_add(wrap_mul(count, modulus_), frame));
+  return gauge().join({count, frame, 0});
 }
 
 void ink_label::build_template() {

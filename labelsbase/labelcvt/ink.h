@@ -57,8 +57,18 @@ class LABELSBASE_API ink_label : public prefix_label {
   labelsbase::scratch_register frame_;
 
  private:
-  // Asks samples_per_unit(), which a host's class may override; below 1 it counts as 1.
-  [[nodiscard]] LABELSBASE_LOCAL int perfs_per_frame() const;
+  // Returns the gauge by samples_per_unit(), which a host's class may override, and by the modulus, which it may
+  // set.
+  [[nodiscard]] LABELSBASE_LOCAL labelsbase::film_gauge gauge() const;
+
+  // Write and read labels that do not fill their columns, and those of hosts' classes.
+  LABELSBASE_LOCAL char const* write_any(LabelPoint* point, int perfs);
+  [[nodiscard]] LABELSBASE_LOCAL int read_any(char const* text, std::size_t length);
+
+  void remember(labelsbase::film_place const& at) noexcept {
+    count_ = at.count;
+    frame_ = at.frame;
+  }
 };
 
 class LABELSBASE_API ink_35_label : public labelsbase::concrete_label<ink_35_label_t, ink_label> {

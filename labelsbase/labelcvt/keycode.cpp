@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "labelsbase/labelcvt/film_columns.h"
 #include "labelsbase/samples.h"
 #include "labelsbase/support/text.h"
 
@@ -23,8 +24,8 @@ constexpr unsigned digits_of(label_t type) noexcept {
 
 keycode_label::keycode_label(label_t gauge_type, unsigned count_digits)
     : prefix_label{film_of(gauge_type).gauge.frames_per_count(), film_of(gauge_type).gauge.perfs_per_frame(), 12},
-      gauge_{film_of(gauge_type).gauge},
       reports_perfs_{film_of(gauge_type).reports_perfs} {
+  gauge_ = film_of(gauge_type).gauge;
   separator_ = film_of(gauge_type).separator;
   set_count_len(count_digits);
   dummy_prefix_ = facts_of(keycode_35_label_t).film.dummy_prefix;
@@ -43,12 +44,7 @@ int keycode_label::get_sample_span_from_packed_strings(char const* from, char co
   return normalise_sample_unit(wrap_sub(get_abs_sample(to), start));
 }
 
-void keycode_label::get_counts(int perfs) {
-  auto const at = gauge_.split(perfs);
-  key_ = at.count;
-  frame_ = at.frame;
-  perfs_left_ = at.perfs_left;
-}
+void keycode_label::get_counts(int perfs) { remember(gauge_.split(perfs)); }
 
 int keycode_label::get_perf_offset(int perfs) { return perfs % gauge_.perfs_per_count(); }
 
@@ -58,9 +54,18 @@ int keycode_label::get_perfs() {
 }
 
 char const* keycode_label::get_abs_string(LabelPoint* point, int perfs) {
+  if (!fills_columns(point, perfs)) return write_any(point, perfs, separator_, false);
+  auto const at = gauge_.split(perfs);
+  remember(at);
+  return write_columns(point, at.count, at.frame);
+}
+
+// A function of its own: labels that fill their columns need no stack.
+[[gnu::noinline]] char const* keycode_label::write_any(LabelPoint* point, int perfs, char separator,
+                                                       bool names_perforation) {
   if (is_special_sample(perfs)) return get_invalid_string(point, perfs);
   get_counts(perfs);
-  return write_label(point, key_, frame_, separator_);
+  return write_label(point, key_, frame_, separator, names_perforation ? perfs_left_ + 1 : 0);
 }
 
 char const* keycode_label::get_abs_perfs_string(LabelPoint* point, int perfs) {
@@ -71,7 +76,21 @@ char const* keycode_label::get_abs_perfs_string(LabelPoint* point, int perfs) {
 
 int keycode_label::get_abs_sample(char const* text) {
   text = or_empty(text);
-  auto const length = std::strlen(text);
+  return read_label(text, std::strlen(text));
+}
+
+int keycode_label::read_label(char const* text, std::size_t length) {
+  int key = 0;
+  int frame = 0;
+  if (!has_columns(length) ||
+      !read_count_and_frame(text + prefix_length_, static_cast<int>(count_length_), key, frame))
+    return read_any(text, length);
+  key_ = key;
+  frame_ = frame;
+  return keycode_label::get_perfs();
+}
+
+[[gnu::noinline]] int keycode_label::read_any(char const* text, std::size_t length) {
   if (length < prefix_length_) return invalid_sample;
   int const key = read_count(text, length, '_');
   if (key < 0) return invalid_sample;
@@ -83,7 +102,7 @@ int keycode_label::get_abs_sample(char const* text) {
     auto const* const digit = std::find_if(text + count_end, text + length, is_digit);
     auto const at = static_cast<std::size_t>(digit - text);
     if (at == length || at > 14 || length - at > 2) return invalid_sample;
-    frame = text_reader{digit}.number().value_or(0);
+    frame = text_reader{digit}.number(static_cast<int>(length - at)).value_or(0);
   }
   key_ = key;
   frame_ = frame;
@@ -105,21 +124,18 @@ char const* keycode_353::get_abs_string(LabelPoint* point, int perfs) { return g
 int keycode_353::get_abs_sample(char const* text) { return get_keep_sample(text); }
 
 char const* keycode_353::get_keep_string(LabelPoint* point, int perfs) {
-  if (is_special_sample(perfs)) return get_invalid_string(point, perfs);
-  get_counts(perfs);
-  return write_label(point, key_, frame_, '+', perfs_left_ + 1);
+  if (!fills_columns(point, perfs)) return write_any(point, perfs, '+', true);
+  auto const at = gauge_.split(perfs);
+  remember(at);
+  return write_columns(point, at.count, at.frame, at.perfs_left + 1);
 }
 
 int keycode_353::get_keep_sample(char const* text) {
-  char label[64];
-  text_writer out{label};
-  out.put(or_empty(text));
-  auto const length = out.length();
-  if (length < 2 || !is_digit(label[length - 1])) return invalid_sample;
-
-  perfs_left_ = label[length - 1] - '1';
-  label[length - 2] = '\0';
-  return keycode_label::get_abs_sample(label);
+  text = or_empty(text);
+  auto const length = strnlen(text, 63);
+  if (length < 2 || !is_digit(text[length - 1])) return invalid_sample;
+  perfs_left_ = text[length - 1] - '1';
+  return read_label(text, length - 2);
 }
 
 // Constructors and destructors are defined here, so that the classes' tables of virtual functions are the

@@ -82,8 +82,22 @@ class LABELSBASE_API keycode_label : public prefix_label {
   labelsbase::scratch_register frame_;
   labelsbase::scratch_register perfs_left_;  // to the last perforation of the frame; 0 but for 3-perf
 
+  void remember(labelsbase::film_place const& at) noexcept {
+    key_ = at.count;
+    frame_ = at.frame;
+    perfs_left_ = at.perfs_left;
+  }
+
  private:
-  labelsbase::film_gauge gauge_;
+  friend class keycode_353;
+
+  // Reads the first `length` characters of a label.
+  [[nodiscard]] LABELSBASE_LOCAL int read_label(char const* text, std::size_t length);
+
+  // Write and read labels that do not fill their columns, and those of hosts' classes.
+  LABELSBASE_LOCAL char const* write_any(LabelPoint* point, int perfs, char separator, bool names_perforation);
+  [[nodiscard]] LABELSBASE_LOCAL int read_any(char const* text, std::size_t length);
+
   bool reports_perfs_;
 };
 

@@ -5,7 +5,8 @@
 #include <limits>
 #include <string_view>
 
-#include "labelsbase/support/digits.h"
+#include "labelsbase/labelcvt/film_columns.h"
+#include "labelsbase/labelcvt/label_facts.h"
 #include "labelsbase/support/text.h"
 
 using namespace labelsbase;
@@ -31,10 +32,24 @@ constexpr int largest_count(unsigned digits) noexcept {
   return power - 1;
 }
 
+// Every type with a prefix fills its columns: its texts are written without looking for room.
+static_assert(std::ranges::all_of(all_label_facts, [](label_facts const& facts) {
+  auto const& film = facts.film;
+  auto const perfs =
+      std::int64_t{largest_count(static_cast<unsigned>(film.count_digits)) + 1} * film.gauge.perfs_per_count();
+  return film.prefix_length == 0 ||
+         (film.prefix_length <= int{sizeof(prefix_block)} &&
+          std::string_view{film.dummy_prefix}.size() >= static_cast<std::size_t>(film.prefix_length) &&
+          film.count_digits < 10 && film.prefix_length + film.count_digits + 5 <= 19 &&
+          film.gauge.frames_per_count() <= 100 && perfs < 100'000'000);
+}));
+
 }  // namespace
 
 prefix_label::prefix_label(int modulus, int samples_per_unit, int total_length) noexcept
-    : variable_label{modulus, samples_per_unit}, total_length_{static_cast<unsigned>(std::max(total_length, 0))} {
+    : variable_label{modulus, samples_per_unit},
+      total_length_{static_cast<unsigned>(std::max(total_length, 0))},
+      gauge_{film_gauge::of_whole_frames(samples_per_unit, modulus)} {
   separator_ = '+';
 }
 
@@ -42,6 +57,13 @@ void prefix_label::set_count_len(unsigned digits) noexcept {
   count_length_ = digits;
   prefix_length_ = total_length_ - std::min(digits, total_length_);
   count_maximum_ = largest_count(digits);
+  column_perfs_ = 0;
+}
+
+void prefix_label::settle_arithmetic() noexcept {
+  // At 3-perf, the last perforations belong to the count after the largest.
+  column_perfs_ =
+      static_cast<unsigned>((count_maximum_ + 1) * gauge_.perfs_per_count() - (gauge_.perfs_per_frame() - 1));
 }
 
 char const* prefix_label::type_str() const { return "prefix_label"; }
@@ -107,37 +129,20 @@ char const* prefix_label::write_label(LabelPoint* point, int count, int frame, c
   auto const prefix_size =
       strnlen(prefix, static_cast<std::size_t>(std::clamp(own.get_prefix_length(), 0, longest)));
   std::memcpy(point->text, prefix, prefix_size);
-  char* out = point->text + prefix_size;
 
-  // Nearly every label has two digits of frames behind a count of its length.
-  auto const room = point->text + longest - out;
-  auto const digits = static_cast<int>(std::min(count_length_, unsigned{longest}));
-  bool const in_columns = count <= count_maximum_ && frame >= 0 && frame < 100 && digits > 1 && digits + 5 <= room;
-  if (in_columns) {
-    put_digits(out, static_cast<unsigned>(count), digits);
-    out += digits;
-    *out++ = separator;
-    put_pair(out, frame);
-    out += 2;
-    *out = '\0';
-  } else {
-    text_writer rest{out, static_cast<std::size_t>(room) + 1};
-    rest.number(count, digits).put(separator).number(frame, 2);
-    out += rest.length();
-  }
-  if (perf_digit != 0)
-    text_writer{out, static_cast<std::size_t>(point->text + longest + 1 - out)}.put('.').number(perf_digit);
+  text_writer out{point->text + prefix_size, longest + 1 - prefix_size};
+  out.number(count, static_cast<int>(std::min(count_length_, unsigned{longest}))).put(separator).number(frame, 2);
+  if (perf_digit != 0) out.put('.').number(perf_digit);
   return point->text;
 }
 
 int prefix_label::read_count(char const* text, std::size_t length, char filler) const noexcept {
   std::size_t const start = std::min<std::size_t>(prefix_length_, length);
-  std::string_view digits{text + start, std::min({length - start, std::size_t{count_length_}, std::size_t{10}})};
-  digits.remove_prefix(std::min(digits.find_first_not_of(filler), digits.size()));
-
-  char copy[11];
-  text_writer{copy}.put(digits);
-  int const number = text_reader{copy}.number().value_or(0);
+  char const* digit = text + start;
+  char const* const end = digit + std::min({length - start, std::size_t{count_length_}, std::size_t{10}});
+  while (digit != end && *digit == filler) ++digit;
+  while (digit != end && is_blank(*digit)) ++digit;
+  int const number = text_reader{digit}.number(static_cast<int>(end - digit)).value_or(0);
   return number <= count_maximum_ ? std::max(number, -1) : -1;
 }
 

@@ -7,6 +7,7 @@
 //   frame       2 digits, within the count        07                    07
 #pragma once
 
+#include "labelsbase/counts/film_gauge.h"
 #include "labelsbase/export.h"
 #include "labelsbase/labelcvt/label_cvt.h"
 
@@ -23,7 +24,7 @@ class LABELSBASE_API prefix_label : public variable_label {
   prefix_label(int modulus, int samples_per_unit, int total_length) noexcept;
 
   // Sets the count to `digits` digits, and the prefix to the rest of the total length. Templates stay as they
-  // were: call build_template() afterwards.
+  // were: call build_template() afterwards. No label is written in columns from here on.
   void set_count_len(unsigned digits) noexcept;
 
   char const* type_str() const override;
@@ -50,6 +51,23 @@ class LABELSBASE_API prefix_label : public variable_label {
   void set_prefix(LabelPoint* point, char const* text) override;
 
  protected:
+  // Declares that no class overrides anything from here on, so that labels whose parts fill their columns are
+  // written without asking. The registry declares it of the converters that it makes.
+  void settle_arithmetic() noexcept;
+
+  // Whether the label of a sample fills its columns, and nothing but this converter has a say in it.
+  [[nodiscard]] bool fills_columns(LabelPoint const* point, int perfs) const noexcept {
+    return static_cast<unsigned>(perfs) < column_perfs_ && point && point->converter == this;
+  }
+
+  // Reads a label whose parts fill their columns, as nearly every text has them. Returns false for any other,
+  // which may be a label all the same.
+  //
+  //   prefix digit{count length} non-digit dd
+  [[nodiscard]] bool has_columns(std::size_t length) const noexcept {
+    return column_perfs_ != 0 && length == std::size_t{prefix_length_} + count_length_ + 3;
+  }
+
   // Returns the text of a count and a frame within it, behind the prefix of the point's converter. A `perf_digit`
   // other than 0 follows after a ".". Returns "NEGATIVE" for a count below zero. A count above the largest starts
   // again, once.
@@ -75,4 +93,16 @@ class LABELSBASE_API prefix_label : public variable_label {
   char const* dummy_prefix_ = "";
   mutable char current_prefix_[longest_prefix + 1] = {};
   unsigned total_length_;
+  labelsbase::film_gauge gauge_;
+
+ private:
+  friend class keycode_label;
+  friend class keycode_353;
+  friend class ink_label;
+
+  // Does what write_label does, with the converter's own separator, for a sample that fills its columns.
+  LABELSBASE_LOCAL inline char const* write_columns(LabelPoint* point, int count, int frame,
+                                                    int perf_digit = 0) const;
+
+  unsigned column_perfs_ = 0;  // samples from 0 up that fill their columns
 };

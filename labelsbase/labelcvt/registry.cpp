@@ -21,18 +21,22 @@ using namespace labelsbase;
 
 namespace {
 
-// Reaches what timecode_label keeps for the classes below it. A converter made here is of the named class itself,
-// so nothing overrides its arithmetic.
-struct settled : timecode_label {
-  static void settle(timecode_label& converter) noexcept { (converter.*&settled::settle_arithmetic)(); }
+// Reaches what a family keeps for the classes below it. A converter made here is of the named class itself, so
+// nothing overrides its arithmetic.
+template <class Family>
+struct settled : Family {
+  static label_cvt* settle(Family* converter) noexcept {
+    (converter->*&settled::settle_arithmetic)();
+    return converter;
+  }
 };
 
 template <class Cvt>
 label_cvt* make() {
   if constexpr (std::is_base_of_v<timecode_label, Cvt>) {
-    auto* const made = new Cvt(Format_full);
-    settled::settle(*made);
-    return made;
+    return settled<timecode_label>::settle(new Cvt(Format_full));
+  } else if constexpr (std::is_base_of_v<prefix_label, Cvt>) {
+    return settled<prefix_label>::settle(new Cvt());
   } else {
     return new Cvt();
   }

@@ -35,13 +35,37 @@ inline bool read_pair(char const* text, int& value) noexcept {
   return true;
 }
 
-// Writes the last `digits` digits of a number, with leading zeros.
+// 1 to 10^9.
+inline constexpr auto int_powers_of_ten = [] {
+  std::array<unsigned, 10> powers{1};
+  for (std::size_t i = 1; i < powers.size(); ++i) powers[i] = powers[i - 1] * 10;
+  return powers;
+}();
+
+// Writes a number that has at most `digits` digits, 1 to 10, with leading zeros.
 inline void put_digits(char* out, unsigned value, int digits) noexcept {
-  for (; digits >= 2; digits -= 2) {
-    put_pair(out + digits - 2, static_cast<int>(value % 100));
+  char* const leading_pair_end = out + 2;
+  for (char* end = out + digits; end > leading_pair_end; end -= 2) {
+    put_pair(end - 2, static_cast<int>(value % 100));
     value /= 100;
   }
-  if (digits > 0) *out = static_cast<char>('0' + value % 10);
+  if (digits % 2 == 0) {
+    put_pair(out, static_cast<int>(value));
+  } else {
+    *out = static_cast<char>('0' + value);
+  }
+}
+
+// Reads exactly `digits` digits, 1 to 9. Returns false if another character is among them.
+[[nodiscard]] inline bool read_digits(char const* text, int digits, int& number) noexcept {
+  unsigned value = 0;
+  for (char const* const end = text + digits; text != end; ++text) {
+    auto const digit = digit_value(*text);
+    if (digit > 9) return false;
+    value = value * 10 + digit;
+  }
+  number = static_cast<int>(value);
+  return true;
 }
 
 // Returns how many digits a number has; 1 for 0.

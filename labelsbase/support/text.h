@@ -54,18 +54,17 @@ class text_writer {
 
   // Writes a number as "%.*d" does: a sign if it is negative, then at least `digits` digits.
   text_writer& signed_digits(int value, int digits) noexcept {
-    constexpr int most = 10;
-    auto const magnitude = value < 0 ? 0U - static_cast<unsigned>(value) : static_cast<unsigned>(value);
-    if (value < 0) put('-');
-    for (; digits > most && next_ != last_; --digits) put('0');
-
-    int const size = std::clamp(digits, digits_in(magnitude), most);
-    char text[most];
-    bool const fits = last_ - next_ >= size;
-    put_digits(fits ? next_ : text, magnitude, size);
-    if (!fits) return put(std::string_view{text, static_cast<std::size_t>(size)});
-    next_ += size;
-    *next_ = '\0';
+    // Nearly every number fills its digits. A negative one is too large, as unsigned numbers go.
+    bool const fills = digits > 0 && digits < 10 &&
+                       static_cast<unsigned>(value) < int_powers_of_ten[static_cast<std::size_t>(digits)] &&
+                       last_ - next_ >= digits;
+    if (fills) {
+      put_digits(next_, static_cast<unsigned>(value), digits);
+      next_ += digits;
+      *next_ = '\0';
+    } else {
+      next_ = put_any_digits(next_, last_, value, digits);
+    }
     return *this;
   }
 
@@ -76,6 +75,22 @@ class text_writer {
   [[nodiscard]] constexpr std::size_t length() const noexcept { return static_cast<std::size_t>(next_ - begin_); }
 
  private:
+  // Writes such a number up to `last`, and the terminator. Returns where that stands. A function of its own, so
+  // that callers stay short.
+  [[gnu::noinline]] static char* put_any_digits(char* next, char* last, int value, int digits) noexcept {
+    constexpr int most = 10;
+    auto const magnitude = value < 0 ? 0U - static_cast<unsigned>(value) : static_cast<unsigned>(value);
+    if (value < 0 && next != last) *next++ = '-';
+    for (; digits > most && next != last; --digits) *next++ = '0';
+
+    int const size = std::clamp(digits, digits_in(magnitude), most);
+    char text[most];
+    put_digits(text, magnitude, size);
+    next = std::copy_n(text, std::min<std::ptrdiff_t>(size, last - next), next);
+    *next = '\0';
+    return next;
+  }
+
   char* begin_;
   char* next_;
   char* last_;
@@ -91,23 +106,20 @@ class text_reader {
   // digit follows.
   //
   //   blank* ("+" | "-")? digit+
-  constexpr std::optional<int> number(int width = std::numeric_limits<int>::max()) noexcept {
+  constexpr std::optional<int> number(int width = unlimited) noexcept {
+    if (is_digit(*next_)) return width > 0 ? std::optional{wrap_to_int(magnitude(width, largest))} : std::nullopt;
     skip_blanks();
     bool const negative = *next_ == '-';
     if (negative || *next_ == '+') {
       ++next_;
-      --width;
+      if (width != unlimited) --width;
     }
     if (width <= 0 || !is_digit(*next_)) return {};
-
-    // A number from 2^63 / 10 up stays too large with any further digit.
-    constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
-    std::uint64_t value = digit_value(*next_++);
-    for (unsigned digit = 0; --width > 0 && (digit = digit_value(*next_)) < 10; ++next_)
-      value = std::min(value, largest / 10 + 1) * 10 + digit;
-    value = std::min(value, negative ? largest + 1 : largest);
-    return wrap_to_int(negative ? 0 - value : value);
+    return wrap_to_int(negative ? 0 - magnitude(width, largest + 1) : magnitude(width, largest));
   }
+
+  // Returns the rest of the text, behind what was read.
+  [[nodiscard]] constexpr char const* rest() const noexcept { return next_; }
 
   // Reads any one character, as "%c" does. Returns nothing at the end of the text.
   constexpr std::optional<char> character() noexcept {
@@ -127,6 +139,27 @@ class text_reader {
   }
 
  private:
+  static constexpr int unlimited = std::numeric_limits<int>::max();
+  static constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
+
+  // Reads digits, of which there is one or more, up to `width` of them. Returns their number, up to `limit`.
+  [[nodiscard]] constexpr std::uint64_t magnitude(int width, std::uint64_t limit) noexcept {
+    auto const* const first = next_;
+    std::uint64_t value = 0;
+    for (unsigned digit = 0; (digit = digit_value(*next_)) < 10; ++next_) {
+      if (width != unlimited && next_ - first == width) break;
+      value = value * 10 + digit;
+    }
+    constexpr int always_fit = 18;  // digits
+    if (next_ - first <= always_fit) return value;
+
+    // A number from 2^63 / 10 up stays too large with any further digit.
+    value = 0;
+    for (auto const* digit = first; digit != next_; ++digit)
+      value = std::min(value, largest / 10 + 1) * 10 + digit_value(*digit);
+    return std::min(value, limit);
+  }
+
   char const* next_;
 };
 

@@ -1,0 +1,82 @@
+// Film labels whose parts fill their columns, as nearly all do: written and read without looking for room, signs
+// or blanks. Labels that do not are left to the general ways, which give the same answers for those that do.
+//
+//   KJ123456 0123 + 07      prefix, count, separator, frame
+#pragma once
+
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <cstring>
+
+#include "labelsbase/labelcvt/prefix_label.h"
+#include "labelsbase/support/digits.h"
+
+namespace labelsbase {
+
+// Writes a count of `digits` digits, a separator and two digits of frames, as in "0123+07". Returns where they
+// end.
+inline char* put_count_and_frame(char* out, int count, int digits, char separator, int frame) noexcept {
+  put_digits(out, static_cast<unsigned>(count), digits);
+  out += digits;
+  *out = separator;
+  put_pair(out + 1, frame);
+  return out + 3;
+}
+
+// Reads a count of exactly `digits` digits, 1 to 9, any character but a digit, and two digits of frames, as in
+// "0123+07". Returns false if the text does not begin with these.
+[[nodiscard]] inline bool read_count_and_frame(char const* text, int digits, int& count, int& frame) noexcept {
+  if (!read_digits(text, digits, count)) return false;
+  text += digits;
+  return *text && !is_digit(*text) && read_pair(text + 1, frame);
+}
+
+// Prefixes of up to a block are looked at and copied all at once.
+using prefix_block = std::uint64_t;
+
+// The lowest bit of each character behind a prefix of so many.
+inline constexpr auto behind_prefix = [] {
+  std::array<prefix_block, sizeof(prefix_block) + 1> blocks{};
+  for (std::size_t length = 0; length < blocks.size(); ++length) {
+    std::array<unsigned char, sizeof(prefix_block)> characters{};
+    for (std::size_t i = length; i < characters.size(); ++i) characters[i] = 1;
+    blocks[length] = std::bit_cast<prefix_block>(characters);
+  }
+  return blocks;
+}();
+
+// Whether a prefix field holds `length` characters or more, up to a block.
+[[nodiscard]] inline bool fills_block(char const* prefix, std::size_t length) noexcept {
+  prefix_block characters;
+  std::memcpy(&characters, prefix, sizeof characters);
+  characters |= behind_prefix[length];
+  return ((characters - 0x0101'0101'0101'0101) & ~characters & 0x8080'8080'8080'8080) == 0;
+}
+
+}  // namespace labelsbase
+
+inline char const* prefix_label::write_columns(LabelPoint* point, int count, int frame, int perf_digit) const {
+  auto const prefix_length = prefix_length_;
+  auto const count_length = count_length_;
+  char const* prefix = point->prefix;
+  if (!labelsbase::fills_block(prefix, prefix_length)) {
+    prefix = current_prefix_;
+    if (!labelsbase::fills_block(prefix, prefix_length))
+      return write_label(point, count, frame, separator_, perf_digit);
+  }
+  labelsbase::prefix_block characters;
+  std::memcpy(&characters, prefix, sizeof characters);
+  std::memcpy(current_prefix_, &characters, sizeof characters);
+  current_prefix_[prefix_length] = '\0';
+  std::memcpy(point->text, &characters, sizeof characters);
+
+  char* out = labelsbase::put_count_and_frame(point->text + prefix_length, count, static_cast<int>(count_length),
+                                              separator_, frame);
+  if (perf_digit != 0) {
+    *out++ = '.';
+    *out++ = static_cast<char>('0' + perf_digit);
+  }
+  *out = '\0';
+  return point->text;
+}
