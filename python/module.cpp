@@ -1,0 +1,9 @@
+#include "core.h"
+
+PYBIND11_MODULE(_core, module) {
+  module.doc() = "The compiled part of labelsbase; the package wraps it.";
+  labels_python::add_labels(module);
+  labels_python::add_catalogue(module);
+  labels_python::add_counting(module);
+  labels_python::add_arrays(module);
+}
