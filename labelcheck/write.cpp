@@ -1,6 +1,7 @@
 #include "labelcheck/write.h"
 
 #include "labelsbase/labelcvt/label_facts.h"
+#include "labelsbase/labelcvt/registry.h"
 
 namespace labelcheck {
 namespace {
@@ -12,7 +13,10 @@ void set_prefix(LabelPoint& point, std::string_view prefix) noexcept {
 }  // namespace
 
 writer::writer(label_t type, std::string_view prefix, label_style style)
-    : negative_{type, 0}, positive_{type, 0}, range_{range_of(type)} {
+    : own_converter_{labelsbase::facts_of(type).film.prefix_length > 0 ? make_any_label_cvt(type) : nullptr},
+      negative_{own_converter_ ? *own_converter_ : *get_static_label_cvt(type), 0},
+      positive_{negative_},
+      range_{range_of(type)} {
   auto const& facts = labelsbase::facts_of(type);
   bool const is_respelt = style == label_style::exchange && facts.is_timecode() && !facts.timecode.drop_frame;
   exchange_digits_ = is_respelt ? static_cast<std::size_t>(facts.timecode.frame_digits()) : 0;

@@ -9,9 +9,11 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string_view>
 
 #include "labelcheck/range.h"
+#include "labelsbase/labelcvt/label_cvt.h"
 #include "labelsbase/labelcvt/label_point.h"
 
 namespace labelcheck {
@@ -32,6 +34,9 @@ class writer {
   [[nodiscard]] std::string_view write(int sample);
 
  private:
+  // A converter remembers the prefix that it last wrote. With one of their own, writers on several threads never
+  // mix up their prefixes. Null for types without prefix.
+  std::unique_ptr<label_cvt> own_converter_;
   LabelPoint negative_;
   LabelPoint positive_;
   sample_range range_;

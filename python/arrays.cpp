@@ -1,14 +1,16 @@
 // Loops over NumPy arrays. Each function takes one-dimensional arrays of one length, with any stride, and releases
-// the interpreter's lock while it runs. It returns the index of the first item that it refuses, or -1 after all of
-// them. The package hands over arrays of other shapes piece by piece, in the types that are read and written here.
+// the interpreter's lock while it runs. It returns the index of the first item that it refuses, or -1 if there is
+// none. The package hands over arrays of other shapes piece by piece, in the types that are read and written here.
 
 #include <pybind11/numpy.h>
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <optional>
+#include <string>
 #include <string_view>
+#include <variant>
 
 #include "core.h"
 #include "labelcheck/sums.h"
@@ -63,32 +65,28 @@ py::ssize_t first_refused(py::ssize_t count, Take take) {
 // Text items have a fixed number of characters, filled up with zeros: bytes ("S") or code points ("U").
 bool is_code_points(py::array const& array) { return array.dtype().kind() == 'U'; }
 
-// The longest label and one character more; longer texts are refused whatever follows.
-constexpr py::ssize_t longest_read = 64;
-
-// An item as a text, which a terminator follows.
-class text_item {
+// Reads items as texts, which a terminator follows. A text is valid until the next one is read.
+template <class Character>
+class text_items {
  public:
-  template <class Character>
-  void read(row<std::byte const> const& items, py::ssize_t index) noexcept {
-    auto const width =
-        std::min<py::ssize_t>(items.item / static_cast<py::ssize_t>(sizeof(Character)), longest_read);
-    auto const* from = items.at(index);
-    size_ = 0;
-    for (py::ssize_t i = 0; i < width; ++i, from += sizeof(Character)) {
-      Character c;
-      std::memcpy(&c, from, sizeof c);
-      characters_[static_cast<std::size_t>(i)] = static_cast<char>(c < 0x80 ? c : 0xFF);  // no label has others
-      if (c != 0) size_ = static_cast<std::size_t>(i) + 1;
+  explicit text_items(row<std::byte const> const& items)
+      : items_{items}, characters_(static_cast<std::size_t>(items.item) / sizeof(Character), '\0') {}
+
+  [[nodiscard]] std::string_view at(py::ssize_t index) noexcept {
+    auto const* from = items_.at(index);
+    std::size_t size = 0;
+    for (std::size_t i = 0; i < characters_.size(); ++i, from += sizeof(Character)) {
+      Character character;
+      std::memcpy(&character, from, sizeof character);
+      characters_[i] = as_byte(character);
+      if (character != 0) size = i + 1;
     }
-    characters_[size_] = '\0';
+    return {characters_.data(), size};
   }
 
-  [[nodiscard]] std::string_view text() const noexcept { return {characters_.data(), size_}; }
-
  private:
-  std::array<char, longest_read + 1> characters_;
-  std::size_t size_ = 0;
+  row<std::byte const> items_;
+  std::string characters_;
 };
 
 template <class Character>
@@ -123,12 +121,17 @@ py::ssize_t write_texts(label_t type, std::string const& prefix, labelcheck::lab
 template <class Character>
 py::ssize_t read_texts_of(label_t type, illegal_labels illegal, row<std::byte const> const& from,
                           row<std::byte> const& samples, row<std::byte> const& refused, bool stop) {
-  text_item item;
+  text_items<Character> texts{from};
   std::string respelt;
   return first_refused(from.count, [&](py::ssize_t i) {
-    item.read<Character>(from, i);
-    auto const read = read_label(type, item.text(), illegal, respelt);
-    auto const* const label = std::get_if<labelcheck::reading>(&read);
+    auto const text = texts.at(i);
+    auto const read = labelcheck::read(type, text);
+    auto const* label = std::get_if<labelcheck::reading>(&read);
+    std::optional<labelcheck::reading> illegal_label;
+    if (!label) {
+      illegal_label = read_illegal(std::get<labelcheck::refusal>(read), text, illegal, respelt);
+      if (illegal_label) label = &*illegal_label;
+    }
     set_item(samples, i, label ? label->sample : labelsbase::invalid_sample);
     set_item(refused, i, label == nullptr);
     return label || !stop;

@@ -64,8 +64,8 @@ py::list all_names() {
   return names;
 }
 
-py::object find_name(std::string const& text) {
-  auto const named = labelnames::find(text);
+py::object find_name(plain_text const& text) {
+  auto const named = labelnames::find(text.bytes);
   return named ? py::make_tuple(named->type, named->rate) : py::object{py::none{}};
 }
 
@@ -81,16 +81,16 @@ void add_catalogue(py::module_& module) {
   module.def("rates", rates);
   module.def("all_names", all_names);
   module.def("find_name", find_name);
-  module.def("nearest_names", labelnames::nearest);
+  module.def("nearest_names", [](plain_text const& text) { return labelnames::nearest(text.bytes); });
 
   module.def("media", media);
   module.def("medium_rate", getFrameRatefromMedium);
   module.def("medium_label_type", getDefaultLabelTypeForMedium);
   module.def("medium_is_progressive", mediumRollIsFrameProgressive);
   module.def("medium_sample_seconds", getSampleDurationFromMedium);
-  module.def("read_roll", [](std::string const& text, UserLabelType family) {
+  module.def("read_roll", [](plain_text const& text, UserLabelType family) {
     MediumRollIdent ident;
-    MediumRollId_from_string(text.c_str(), ident, family);
+    MediumRollId_from_string(text.bytes.c_str(), ident, family);
     return py::make_tuple(ident.medium, ident.generation);
   });
   module.def("write_roll", [](MediumRollMedium medium, MediumRollGeneration generation) {
@@ -105,9 +105,9 @@ void add_catalogue(py::module_& module) {
                              MediumRollMedium other_medium, MediumRollGeneration other_generation) {
     return roll_of(medium, generation).MediumRollId_fits_this(roll_of(other_medium, other_generation)) != 0;
   });
-  module.def("read_reel", [](std::string const& text) {
-    MediumRoll const roll{text.c_str()};
-    return py::make_tuple(roll.ident.medium, roll.ident.generation, std::string{roll.reelid.c_str()});
+  module.def("read_reel", [](plain_text const& text) {
+    MediumRoll const roll{text.bytes.c_str()};
+    return py::make_tuple(roll.ident.medium, roll.ident.generation, plain_text{roll.reelid.c_str()});
   });
 
   module.attr("CHOICE_COUNT") = static_cast<int>(uif_cd) + 1;
@@ -116,7 +116,8 @@ void add_catalogue(py::module_& module) {
     return py::make_tuple(uifLabel_to_config_str(choice), uifLabelText(choice), uifLabelType(choice), roll.medium,
                           roll.generation);
   });
-  module.def("find_choice", [](std::string const& keyword) { return config_str_to_uifLabel(keyword.c_str()); });
+  module.def("find_choice",
+             [](plain_text const& keyword) { return config_str_to_uifLabel(keyword.bytes.c_str()); });
 }
 
 }  // namespace labels_python

@@ -4,10 +4,10 @@
 
 #include <pybind11/pybind11.h>
 
+#include <optional>
 #include <string>
-#include <variant>
 
-#include "enumerations.h"
+#include "casters.h"
 #include "labelcheck/read.h"
 #include "labelsbase/labelcvt/label_types.h"
 
@@ -20,12 +20,11 @@ enum class illegal_labels {
   as_is,    // read as the library does
 };
 
-// Reads a label. The prefix of what was read is valid while `text` and `respelt` are. `text` must be followed by a
-// terminator. Allocates nothing for a valid label.
-[[nodiscard]] std::variant<labelcheck::reading, labelcheck::refusal> read_label(label_t type,
-                                                                                std::string_view text,
-                                                                                illegal_labels illegal,
-                                                                                std::string& respelt);
+// Reads a text that was refused as `illegal` says, or returns nothing if that cannot be done. The prefix of what
+// was read is valid while `respelt` is.
+[[nodiscard]] std::optional<labelcheck::reading> read_illegal(labelcheck::refusal const& refused,
+                                                              std::string_view text, illegal_labels illegal,
+                                                              std::string& respelt);
 
 void add_arrays(pybind11::module_& module);
 void add_catalogue(pybind11::module_& module);

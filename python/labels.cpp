@@ -2,7 +2,10 @@
 
 #include <pybind11/stl.h>
 
+#include <algorithm>
+#include <optional>
 #include <string>
+#include <variant>
 
 #include "core.h"
 #include "labelcheck/range.h"
@@ -16,6 +19,8 @@ namespace {
 
 namespace py = pybind11;
 
+bool is_printable(char c) noexcept { return c >= ' ' && c <= '~'; }
+
 LabelPoint point_of(label_t type, int sample, std::string const& prefix) {
   LabelPoint point{type, 0};
   point.sample = sample;
@@ -24,13 +29,16 @@ LabelPoint point_of(label_t type, int sample, std::string const& prefix) {
 }
 
 // Returns (sample, prefix), or (field, position, nearest, reason) for a text that is refused.
-py::tuple read_text(label_t type, std::string const& text, illegal_labels illegal) {
-  std::string respelt;
-  auto const read = read_label(type, text, illegal, respelt);
-  if (auto const* const label = std::get_if<labelcheck::reading>(&read))
-    return py::make_tuple(label->sample, std::string{label->prefix});
+py::tuple read_text(label_t type, plain_text const& text, illegal_labels illegal) {
+  auto const read = labelcheck::read(type, text.bytes);
+  auto const answer = [](labelcheck::reading const& label) {
+    return py::make_tuple(label.sample, plain_text{std::string{label.prefix}});
+  };
+  if (auto const* const label = std::get_if<labelcheck::reading>(&read)) return answer(*label);
   auto const& refused = std::get<labelcheck::refusal>(read);
-  return py::make_tuple(labelcheck::field_name(refused.wrong), refused.position, refused.nearest,
+  std::string respelt;
+  if (auto const label = read_illegal(refused, text.bytes, illegal, respelt)) return answer(*label);
+  return py::make_tuple(labelcheck::field_name(refused.wrong), refused.position, plain_text{refused.nearest},
                         labelcheck::explain(refused));
 }
 
@@ -108,23 +116,24 @@ double pitch_on(label_t type, int medium, int generation) {
 
 }  // namespace
 
-std::variant<labelcheck::reading, labelcheck::refusal> read_label(label_t type, std::string_view text,
-                                                                  illegal_labels illegal, std::string& respelt) {
-  auto read = labelcheck::read(type, text);
-  auto const* const refused = std::get_if<labelcheck::refusal>(&read);
-  if (!refused || illegal == illegal_labels::refuse) return read;
-  if (illegal == illegal_labels::nearest) {
-    if (refused->nearest.empty()) return read;
-    respelt = refused->nearest;
-    return labelcheck::read(type, respelt);
+std::optional<labelcheck::reading> read_illegal(labelcheck::refusal const& refused, std::string_view text,
+                                                illegal_labels illegal, std::string& respelt) {
+  if (illegal == illegal_labels::nearest && !refused.nearest.empty()) {
+    respelt = refused.nearest;
+    return std::get<labelcheck::reading>(labelcheck::read(refused.type, respelt));
   }
-  if (text.find('\0') != std::string_view::npos) return read;  // the library would stop there
+  bool const stops_early = text.find('\0') != std::string_view::npos;
+  auto const& facts = labelsbase::facts_of(refused.type);
+  if (illegal != illegal_labels::as_is || stops_early || !facts.has_labels()) return std::nullopt;
+
   respelt = text;
-  auto& converter = *get_static_label_cvt(type);
-  int const sample = converter.get_abs_sample(respelt.c_str());
-  if (sample == labelsbase::invalid_sample || sample == labelsbase::unreadable_negative_sample) return read;
-  auto const prefix_length = static_cast<std::size_t>(labelsbase::facts_of(type).film.prefix_length);
-  return labelcheck::reading{sample, std::string_view{respelt}.substr(0, prefix_length)};
+  int const sample = get_static_label_cvt(refused.type)->get_abs_sample(respelt.c_str());
+  if (sample == labelsbase::invalid_sample || sample == labelsbase::unreadable_negative_sample)
+    return std::nullopt;
+  auto const length = static_cast<std::size_t>(facts.film.prefix_length);
+  auto const prefix = text.size() < length ? "" : std::string_view{respelt}.substr(0, length);
+  if (!std::ranges::all_of(prefix, is_printable)) return std::nullopt;
+  return labelcheck::reading{sample, prefix};
 }
 
 void add_labels(py::module_& module) {
@@ -147,15 +156,15 @@ void add_labels(py::module_& module) {
         return kept{static_cast<label_t>(type), prefix, sample, length, pitch, bounded, medium, generation};
       }))
       .def_readonly("type", &kept::type)
-      .def_readonly("prefix", &kept::prefix)
+      .def_property_readonly("prefix", [](kept const& fields) { return plain_text{fields.prefix}; })
       .def_readonly("sample", &kept::sample)
       .def_readonly("length", &kept::length)
       .def_readonly("pitch", &kept::pitch)
       .def_readonly("bounded", &kept::bounded)
       .def_readonly("medium", &kept::medium)
       .def_readonly("generation", &kept::generation);
-  module.def("read_keep", [](std::string const& text) { return kept::of(Label{text.c_str()}); });
-  module.def("read_edit_keep", [](std::string const& text) { return kept::of(EditLabel{text.c_str()}); });
+  module.def("read_keep", [](plain_text const& text) { return kept::of(Label{text.bytes.c_str()}); });
+  module.def("read_edit_keep", [](plain_text const& text) { return kept::of(EditLabel{text.bytes.c_str()}); });
   module.def("write_keep", write_keep);
   module.def("write_edit_keep", write_edit_keep);
   module.def("natural_pitch", Label::get_natural_pitch);

@@ -10,8 +10,7 @@ from typing import Any, Iterator, Literal
 import numpy as np
 
 from . import _core
-from ._points import _ILLEGAL, _STYLE, Illegal, Style, choice
-from ._points import INVALID_SAMPLE, parse
+from ._points import _ILLEGAL, _STYLE, Illegal, LabelError, Style, choice, film_prefix
 from ._types import TypeName, find_type
 
 _INT32 = np.iinfo(np.int32)
@@ -43,9 +42,9 @@ def _whole_numbers(values: Any, name: str, dtype: type = np.int32) -> np.ndarray
 def _bounded(array: np.ndarray, name: str) -> np.ndarray:
     if array.dtype == np.int32:
         return array
-    for value in (array.min(), array.max()):
+    for value, at in ((array.min(), array.argmin()), (array.max(), array.argmax())):
         if not _INT32.min <= value <= _INT32.max:
-            raise OverflowError(f"{name}: {value} is beyond 32 bits, {_INT32.min} to {_INT32.max}")
+            raise OverflowError(f"{name}{_index(at, array.shape)}: {value} is beyond 32 bits, {_INT32.min} to {_INT32.max}")
     return array.astype(np.int32) if array.dtype == object else array
 
 
@@ -53,8 +52,10 @@ def _texts(texts: Any) -> np.ndarray:
     """Return an array of bytes or text in the byte order of the machine; raise TypeError for anything else."""
     array = np.asarray(texts)
     if array.dtype == object:
-        if not all(isinstance(text, str) for text in array.flat):
-            raise TypeError("labels need to be str or bytes; fill or drop missing ones first")
+        for position, text in enumerate(array.flat):
+            if not isinstance(text, str):
+                raise TypeError(f"texts{_index(position, array.shape)}: expected a label as str, not {text!r}; "
+                                "fill or drop missing labels first")
         array = array.astype(str)
     if array.dtype.kind not in "SU" and array.size:
         raise TypeError(f"labels need to be str or bytes, not {array.dtype}")
@@ -71,9 +72,13 @@ def _output(out: np.ndarray | None, shape: tuple, dtype: Any) -> np.ndarray:
     return out
 
 
-def _where(array: np.ndarray, refused: Any) -> tuple[int, ...]:
-    """Return the index of the first item for which `refused` is true."""
-    return next(tuple(map(int, index)) for index in np.ndindex(array.shape) if refused(array[index]))
+def _first(found: np.ndarray) -> list[int]:
+    """Return the index of the first item that is true."""
+    return _index(found.argmax(), found.shape)
+
+
+def _index(position: Any, shape: tuple[int, ...]) -> list[int]:
+    return [int(axis) for axis in np.unravel_index(int(position), shape)]
 
 
 def to_text(type: TypeName, samples: Any, *, prefix: str = "", style: Style = "own", dtype: Any = "U",
@@ -95,6 +100,7 @@ def to_text(type: TypeName, samples: Any, *, prefix: str = "", style: Style = "o
     found = find_type(type).type
     spelling = choice(style, _STYLE, "style")
     numbers = _whole_numbers(samples, "samples")
+    prefix = film_prefix(found, prefix)
     if out is None:
         kind = np.dtype(dtype).kind
         if kind not in "SU":
@@ -109,7 +115,7 @@ def to_text(type: TypeName, samples: Any, *, prefix: str = "", style: Style = "o
             sample = int(piece[refused])
             label = _core.write_text(found, sample, prefix, spelling)
             why = f"is {label!r}, which out has no room for" if label else _core.explain_missing(found, sample)
-            raise ValueError(f"samples{list(_where(numbers, lambda number: number == sample))}: {sample} {why}")
+            raise ValueError(f"samples{_first(numbers == sample)}: {sample} {why}")
     return out
 
 
@@ -144,7 +150,9 @@ def to_samples(type: TypeName, texts: Any, *, illegal: Illegal = "refuse",
         first = _core.read_texts(found, mode, piece, numbers, refused, stop)
         if first >= 0 and stop:
             text = piece[first]
-            parse(found, text if isinstance(text, str) else text.decode("latin-1"), illegal=illegal)  # raises
+            spelling = text if isinstance(text, str) else text.decode("latin-1")
+            field, position, nearest, reason = _core.read_text(found, spelling, mode)
+            raise LabelError(spelling, field, reason, position, nearest, tuple(_first(labels == text)))
     return samples if stop else (samples, mask)
 
 
@@ -173,7 +181,8 @@ def add(type: TypeName, samples: Any, frames: Any) -> np.ndarray:
     for piece, by, to in _pieces([numbers, counts], [sums]):
         if (refused := _core.add_counts(found, piece, by, to)) >= 0:
             why = _core.add_samples(found, int(piece[refused]), "", int(by[refused]))
-            raise ValueError(f"the sum of sample {piece[refused]} and {by[refused]} samples {why}")
+            at = _first((numbers == piece[refused]) & (counts == by[refused]))
+            raise ValueError(f"samples{at}: the sum of {piece[refused]} and {by[refused]} samples {why}")
     return sums
 
 
@@ -192,5 +201,6 @@ def diff(type: TypeName, samples: Any, from_samples: Any) -> np.ndarray:
     differences = np.empty(numbers.shape, np.int32)
     for piece, less, to in _pieces([numbers, others], [differences]):
         if (refused := _core.subtract(found, piece, less, to)) >= 0:
-            raise ValueError(f"the difference of {piece[refused]} and {less[refused]} is beyond 32 bits")
+            at = _first((numbers == piece[refused]) & (others == less[refused]))
+            raise ValueError(f"samples{at}: the difference of {piece[refused]} and {less[refused]} is beyond 32 bits")
     return differences

@@ -4,7 +4,7 @@ from __future__ import annotations
 import operator
 from dataclasses import dataclass, field
 from functools import total_ordering
-from typing import Literal
+from typing import Literal, TypeVar, overload
 
 from . import _core
 from ._enums import LabelType
@@ -12,6 +12,7 @@ from ._types import TypeName, find_type
 
 Illegal = Literal["refuse", "nearest", "as-is"]
 Style = Literal["own", "exchange"]
+Value = TypeVar("Value")
 
 _ILLEGAL = {"refuse": _core.Illegal.refuse, "nearest": _core.Illegal.nearest, "as-is": _core.Illegal.as_is}
 _STYLE = {"own": _core.Style.own, "exchange": _core.Style.exchange}
@@ -23,21 +24,26 @@ INVALID_SAMPLE: int = _core.INVALID_SAMPLE
 class LabelError(ValueError):
     """A text that is not a label of its type."""
 
+    text: str
     field: str  #: the part at fault: "hours", "frames", "prefix", ...; "label" for the whole
     reason: str  #: what is wrong: "seconds run from 00 to 59"
     position: int  #: characters from the start of the text to the place at fault
     nearest: str  #: the nearest valid label; empty if nothing is legible
+    index: tuple[int, ...] | None  #: of the text in its array; None for a single text
 
-    def __init__(self, text: str, field: str, reason: str, position: int, nearest: str) -> None:
-        at = f"; nearest is {nearest}" if nearest else ""
-        super().__init__(f"{text!r}: {reason} (character {position + 1}){at}")
+    def __init__(self, text: str, field: str, reason: str, position: int, nearest: str,
+                 index: tuple[int, ...] | None = None) -> None:
+        where = "" if index is None else f"texts{list(index)}: "
+        hint = f"; nearest is {nearest}" if nearest else ""
+        super().__init__(f"{where}{text!r}: {reason} (character {position + 1}){hint}")
         self.text, self.field, self.reason, self.position, self.nearest = text, field, reason, position, nearest
+        self.index = index
 
     def __reduce__(self) -> tuple:
-        return type(self), (self.text, self.field, self.reason, self.position, self.nearest)
+        return type(self), (self.text, self.field, self.reason, self.position, self.nearest, self.index)
 
 
-def choice(given: str, choices: dict, name: str):
+def choice(given: str, choices: dict[str, Value], name: str) -> Value:
     """Return the value of a named choice; raise if there is none."""
     if not isinstance(given, str):
         raise TypeError(f"{name} needs to be a str, not {given!r}")
@@ -46,12 +52,23 @@ def choice(given: str, choices: dict, name: str):
     return choices[given]
 
 
-def whole_number(value, name: str) -> int:
+def film_prefix(type: LabelType, prefix: str) -> str:
+    """Return a prefix of a key number or ink number, or ""; raise TypeError or ValueError for anything else."""
+    if not isinstance(prefix, str):
+        raise TypeError(f"prefix needs to be a str, not {prefix!r}")
+    length = _core.facts_of(type)["prefix_length"]
+    if prefix and (len(prefix) != length or not (prefix.isascii() and prefix.isprintable())):
+        expected = f"{length} printable characters" if length else "no prefix"
+        raise ValueError(f"prefix={prefix!r}: expected {expected} for {type.name}")
+    return prefix
+
+
+def whole_number(value: object, name: str) -> int:
     """Return a whole number of 32 bits; raise TypeError or OverflowError for anything else."""
     if isinstance(value, bool):
         raise TypeError(f"{name} needs to be a whole number, not {value!r}")
     try:
-        number = operator.index(value)
+        number = operator.index(value)  # type: ignore[arg-type]
     except TypeError:
         raise TypeError(f"{name} needs to be a whole number, not {value!r}") from None
     if not -2**31 <= number < 2**31:
@@ -81,8 +98,7 @@ def parse(type: TypeName, text: str, *, illegal: Illegal = "refuse") -> LabelPoi
         sample, prefix = answer
         return LabelPoint(found.type, sample, prefix)
     field_name, position, nearest, reason = answer
-    characters = len(text.encode("utf-8", "surrogatepass")[:position].decode("utf-8", "ignore"))
-    raise LabelError(text, field_name, reason, characters, nearest)
+    raise LabelError(text, field_name, reason, position, nearest)
 
 
 @total_ordering
@@ -100,7 +116,7 @@ class LabelPoint:
     >>> (LabelPoint("25", 100) - LabelPoint("25", 25)).__class__.__name__
     'int'
 
-    Sums count frames and wrap as the type does: timecode at the end of the day. Points of one type and prefix compare
+    Sums count frames and wrap: timecode at the end of the day, key numbers after the last key. Points of one type and prefix compare
     by their samples.
     """
 
@@ -109,16 +125,12 @@ class LabelPoint:
     prefix: str = field(default="")
 
     def __init__(self, type: TypeName, sample: int, prefix: str = "") -> None:
-        """Raise TypeError, ValueError or OverflowError for what has no label: 1e9 frames of timecode, for example."""
+        """Accept any sample of 32 bits, with a label or not. Raise OverflowError for others, ValueError for a prefix of
+        another length than the type has, TypeError for a sample that is not a whole number."""
         found = find_type(type)
-        if not isinstance(prefix, str):
-            raise TypeError(f"prefix needs to be a str, not {prefix!r}")
-        length = _core.facts_of(found.type)["prefix_length"]
-        if prefix and len(prefix) != length:
-            raise ValueError(f"prefix={prefix!r}: expected {length} characters for {found.type.name}")
         object.__setattr__(self, "type", found.type)
         object.__setattr__(self, "sample", whole_number(sample, "sample"))
-        object.__setattr__(self, "prefix", prefix)
+        object.__setattr__(self, "prefix", film_prefix(found.type, prefix))
 
     @property
     def text(self) -> str:
@@ -155,7 +167,11 @@ class LabelPoint:
 
     __radd__ = __add__
 
-    def __sub__(self, other):
+    @overload
+    def __sub__(self, other: LabelPoint) -> int: ...
+    @overload
+    def __sub__(self, other: int) -> LabelPoint: ...
+    def __sub__(self, other: LabelPoint | int) -> LabelPoint | int:
         """Return the point some frames earlier, or the frames between two points of one type and prefix."""
         if not isinstance(other, LabelPoint):
             return self._plus(-whole_number(other, "frames"))

@@ -2,6 +2,7 @@
 from __future__ import annotations
 
 from dataclasses import dataclass
+from enum import IntEnum
 from typing import NamedTuple, Union
 
 from . import _core
@@ -37,7 +38,7 @@ def find_type(name: TypeName) -> NamedType:
         if not facts["has_labels"]:
             raise ValueError(f"{name.name} has no labels of its own; it is the base of other types")
         return NamedType(name, FrameRate(facts["natural_rate"]))
-    if isinstance(name, bool) or not isinstance(name, (str, int, float)):
+    if isinstance(name, (bool, IntEnum)) or not isinstance(name, (str, int, float)):
         raise TypeError(f"expected the name of a label type, such as '25' or '29.97df', not {name!r}")
     text = name if isinstance(name, str) else f"{name:g}"
     found = _core.find_name(text)

@@ -1,14 +1,49 @@
-// Enumerations of the library cross over as plain numbers: Python's own IntEnum stands for them there.
+// How values cross over: enumerations as plain numbers, for which Python has IntEnum, and texts byte by byte.
 #pragma once
 
 #include <pybind11/pybind11.h>
+
+#include <string>
 
 #include "labelcheck/read.h"
 #include "labelsbase/MediumRoll/medium_roll.h"
 #include "labelsbase/framecounts/count_types.h"
 #include "labelsbase/uiflabels/label_choices.h"
 
+namespace labels_python {
+
+// A character as the library reads it. No label has characters beyond ASCII; they become one that no label has.
+constexpr char as_byte(char32_t character) noexcept {
+  return static_cast<char>(character < 0x80 ? character : 0xFF);
+}
+
+// A text with a byte for each character, so that positions count characters. Any str crosses over, lone surrogates
+// too.
+struct plain_text {
+  std::string bytes{};
+};
+
+}  // namespace labels_python
+
 namespace pybind11::detail {
+
+template <>
+struct type_caster<labels_python::plain_text> {
+  PYBIND11_TYPE_CASTER(labels_python::plain_text, const_name("str"));
+
+  bool load(handle text, bool) {
+    if (!PyUnicode_Check(text.ptr())) return false;
+    auto const length = PyUnicode_GetLength(text.ptr());
+    value.bytes.resize(static_cast<std::size_t>(length));
+    for (ssize_t i = 0; i < length; ++i)
+      value.bytes[static_cast<std::size_t>(i)] = labels_python::as_byte(PyUnicode_ReadChar(text.ptr(), i));
+    return true;
+  }
+
+  static handle cast(labels_python::plain_text const& text, return_value_policy, handle) {
+    return PyUnicode_DecodeLatin1(text.bytes.data(), static_cast<ssize_t>(text.bytes.size()), nullptr);
+  }
+};
 
 template <class Enumeration>
 struct number_caster {
