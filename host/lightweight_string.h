@@ -7,6 +7,7 @@
 #include <cstring>
 #include <new>
 #include <string>
+#include <utility>
 
 #include "host/os.h"
 
@@ -26,7 +27,7 @@ struct InternalRefCountTraits {
 // NOLINTBEGIN(clang-analyzer-unix.Malloc)
 
 // A handle of two words on a counted object: a pointer to the count and one to the object. Both are null in an
-// empty handle.
+// empty handle. A handle without a count borrows an object that another handle keeps.
 template <typename Object, typename DtorTraits, typename CountTraits>
 class Ptr {
  public:
@@ -38,15 +39,27 @@ class Ptr {
   // Takes over the count of 1 that a new object starts with.
   Ptr(count_type* count, Object* object) noexcept : count_{count}, object_{object} {}
 
-  // A copy raises the count. Assignment raises the new count before it lowers the old one.
+  // A copy raises the count. Assignment raises the new count before it lowers the old one; if both are the same
+  // count, it stays as it is.
   Ptr(Ptr const& other) noexcept : count_{other.count_}, object_{other.object_} { raise(); }
 
   Ptr& operator=(Ptr const& other) noexcept {
-    if (this == &other) return *this;
-    other.raise();
-    lower();
-    count_ = other.count_;
+    if (count_ != other.count_) {
+      other.raise();
+      lower();
+      count_ = other.count_;
+    }
     object_ = other.object_;
+    return *this;
+  }
+
+  // Moves change no count: construction empties the other handle, assignment swaps the two.
+  Ptr(Ptr&& other) noexcept
+      : count_{std::exchange(other.count_, nullptr)}, object_{std::exchange(other.object_, nullptr)} {}
+
+  Ptr& operator=(Ptr&& other) noexcept {
+    std::swap(count_, other.count_);
+    std::swap(object_, other.object_);
     return *this;
   }
 
@@ -56,8 +69,8 @@ class Ptr {
   // Returns the object, or null if the handle is empty.
   [[nodiscard]] Object* get() const noexcept { return object_; }
 
-  // Returns the number of handles on the object, or 0 for an empty handle. If it is 1, no other thread can change
-  // it, and everything that earlier owners wrote is visible.
+  // Returns the number of handles that count the object, or 0 for a handle without a count. If it is 1, no other
+  // thread can change it, and everything that earlier owners wrote is visible.
   [[nodiscard]] count_type count() const noexcept {
     return count_ ? std::atomic_ref{*count_}.load(std::memory_order_acquire) : 0;
   }
@@ -67,10 +80,8 @@ class Ptr {
     if (count_) CountTraits::increment(*count_);
   }
 
-  constexpr void lower() noexcept {
+  constexpr void lower() const noexcept {
     if (count_ && CountTraits::decrement(*count_)) DtorTraits::destroy(object_);
-    count_ = nullptr;
-    object_ = nullptr;
   }
 
   count_type* count_ = nullptr;
@@ -107,7 +118,20 @@ class LightweightString {
 
   // Copies the first `length` characters of `text`. If the text is null, has 2^31 characters or more, or the host
   // has no memory, the string is empty.
-  LightweightString(Char const* text, std::size_t length) noexcept : handle_{copy_of(text, length)} {}
+  LightweightString(Char const* text, std::size_t length) noexcept
+      : handle_{handle_on(copies_of(text, length, 1), 0)} {}
+
+  // Sets several strings to one text, in one buffer that the first of them counts. The others borrow it: copies of
+  // them change no count, and live only as long as the first string or a copy of it. Returns the characters of the
+  // first for writing, and behind them, each after capacity() characters, those of the others. Returns null, and
+  // all strings are empty, where the constructor would make an empty string.
+  template <std::size_t count>
+  static Char* set_in_one_buffer(LightweightString* const (&strings)[count], Char const* text,
+                                 std::size_t length) noexcept {
+    Impl* const impls = copies_of(text, length, count);
+    for (std::size_t i = 0; i < count; ++i) strings[i]->handle_ = handle_on(impls, i);
+    return impls ? impls->characters : nullptr;
+  }
 
   // Returns the text, terminated; "" if there is no buffer.
   [[nodiscard]] Char const* c_str() const noexcept { return impl() ? impl()->characters : empty_text; }
@@ -132,7 +156,7 @@ class LightweightString {
   // Returns the characters for writing, in a buffer that no other string shares. Returns null if the string is
   // empty, or if the host has no memory for the copy; the string is then empty.
   [[nodiscard]] Char* detach() noexcept {
-    if (handle_.count() > 1) *this = LightweightString{c_str(), length()};
+    if (impl() && handle_.count() != 1) *this = LightweightString{c_str(), length()};
     return impl() ? impl()->characters : nullptr;
   }
 
@@ -154,16 +178,26 @@ class LightweightString {
     return capacity;
   }
 
-  [[nodiscard]] static handle copy_of(Char const* text, std::size_t length) noexcept {
-    if (!text || length == 0 || length >= 0x8000'0000U) return {};
+  // Returns the headers of some copies of a text, all in one block: first the headers, then the characters.
+  [[nodiscard]] static Impl* copies_of(Char const* text, std::size_t length, std::size_t count) noexcept {
+    if (!text || length == 0 || length >= 0x8000'0000U) return nullptr;
     auto const capacity = capacity_for(static_cast<std::uint32_t>(length));
-    void* block = OS().allocator().allocate(sizeof(Impl) + capacity * sizeof(Char));
-    if (!block) return {};
-    auto* characters = reinterpret_cast<Char*>(static_cast<char*>(block) + sizeof(Impl));
-    std::memcpy(characters, text, length * sizeof(Char));
-    characters[length] = Char{};
-    auto* impl = new (block) Impl{characters, static_cast<std::uint32_t>(length), capacity, 1};
-    return {&impl->references, impl};
+    void* block = OS().allocator().allocate(count * (sizeof(Impl) + capacity * sizeof(Char)));
+    if (!block) return nullptr;
+    auto* const impls = static_cast<Impl*>(block);
+    auto* characters = reinterpret_cast<Char*>(impls + count);
+    for (std::size_t i = 0; i < count; ++i, characters += capacity) {
+      std::memcpy(characters, text, length * sizeof(Char));
+      characters[length] = Char{};
+      new (impls + i) Impl{characters, static_cast<std::uint32_t>(length), capacity, 1};
+    }
+    return impls;
+  }
+
+  // Returns a handle on the first of the copies, which counts the block, or on one that borrows it.
+  [[nodiscard]] static handle handle_on(Impl* impls, std::size_t i) noexcept {
+    if (!impls) return {};
+    return {i == 0 ? &impls->references : nullptr, impls + i};
   }
 
   handle handle_;

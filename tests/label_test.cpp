@@ -60,6 +60,13 @@ TEST(Label, CopiesAllButTheRevision) {
   tc_24_label own{15};
   assigned = Label{own};
   EXPECT_EQ(assigned.start.cvt(), get_static_label_cvt(tc_24_label_t));
+
+  // A start without a sample leaves its placeholder as the prefix, in the shape of a template of its own.
+  Label blank = range(ink_35_label_t, past_end, 0);
+  blank.start.label_template.set("99999999+19");
+  assigned = std::move(blank);
+  EXPECT_STREQ(assigned.start.prefix, ">>>>>>>>");
+  EXPECT_STREQ(assigned.start.label_template.text(), Label{ink_35_label_t}.start.label_template.text());
 }
 
 TEST(Label, AnswersForOffsetsAndSamples) {

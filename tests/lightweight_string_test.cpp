@@ -60,6 +60,20 @@ TEST_F(LightweightStrings, CopiesShareUntilDetached) {
   EXPECT_EQ(second.references(), 1);
 }
 
+TEST_F(LightweightStrings, BorrowABufferThatAnotherCounts) {
+  text owner{"old"}, first, second{"older"};
+  char* const characters = text::set_in_one_buffer({&owner, &first, &second}, "shape", 5);
+  characters[owner.capacity()] = 'S';
+  EXPECT_EQ(live_blocks(), blocks_before_ + 1);
+  EXPECT_EQ(owner.references() + first.references(), 1);
+
+  text own = first;
+  own.detach()[0] = 'X';
+  EXPECT_EQ(std::string{owner.c_str()} + first.c_str() + second.c_str() + own.c_str(), "shapeShapeshapeXhape");
+  EXPECT_FALSE(text::set_in_one_buffer({&first, &second}, "", 0));
+  EXPECT_TRUE(first.empty() && second.empty());
+}
+
 TEST_F(LightweightStrings, AreEqualByText) {
   EXPECT_EQ(text{"A001"}, text("A001B", 4));
   EXPECT_FALSE(text{"A001"}.shares_buffer_with("A001"));

@@ -1,5 +1,5 @@
-// A host that asks for labels while they are being built, and whose memory runs out. Nothing throws or leaks: what
-// cannot be built becomes null or the invalid converter.
+// A host that asks for labels while they are being built, whose memory runs out, and that watches its use counts.
+// Nothing throws or leaks: what cannot be built becomes null or the invalid converter.
 
 #include <gtest/gtest.h>
 
@@ -14,6 +14,7 @@ namespace {
 constinit int blocks_left = 1'000'000;
 constinit int live_blocks = 0;
 constinit bool asked_while_building = false;
+constinit int raised = 0, lowered = 0;
 
 class poor_services final : public Kiv::OperatingServices, Kiv::Allocator, Kiv::ReferenceCounts {
  public:
@@ -31,14 +32,14 @@ class poor_services final : public Kiv::OperatingServices, Kiv::Allocator, Kiv::
     live_blocks -= block != nullptr;
     std::free(block);
   }
-  void increment(std::int32_t& count) noexcept override { ++count; }
-  bool decrement(std::int32_t& count) noexcept override { return --count == 0; }
+  void increment(std::int32_t& count) noexcept override { ++raised, ++count; }
+  bool decrement(std::int32_t& count) noexcept override { return ++lowered, --count == 0; }
 };
 
 constinit poor_services services;
 
 TEST(PoorHost, GetsWhatItsMemoryAllows) {
-  blocks_left = 250;  // for the types before those of 65 mm film
+  blocks_left = 75;  // for the types before those of 65 mm film
   EXPECT_STREQ(get_static_label_cvt(null_label_t)->type_str(), "dummy_label");
   EXPECT_TRUE(asked_while_building);
   EXPECT_EQ(get_static_label_cvt(pal_label_t)->type(), pal_label_t);
@@ -52,8 +53,31 @@ TEST(PoorHost, GetsWhatItsMemoryAllows) {
     delete cvt;
     EXPECT_EQ(live_blocks, kept);
   }
-  // The converter and two templates of a text and three placeholders: nothing is built twice.
-  EXPECT_EQ(blocks_left, 11 - 9);
+  EXPECT_EQ(blocks_left, 11 - 3) << "the converter and two templates: nothing is built twice";
+}
+
+TEST(UseCounts, ChangeOnlyForNewOwners) {
+  using change = std::pair<int, int>;  // raised, lowered
+  auto const change_of = [](auto act) {
+    change const before{raised, lowered};
+    act();
+    return change{raised - before.first, lowered - before.second};
+  };
+  change const none{0, 0};
+  LightweightString<char> text{"A001"}, reel{"B002"};
+  LabelTemplate shape{"29:59"}, shared{text};
+  LabelPoint pal{pal_label_t, 1}, later{pal_label_t, 2}, film{keycode_35_label_t, 3};
+  EditLabel label{pal, {}}, edge{film, {}};
+
+  EXPECT_EQ(change_of([&] { text = *&text, pal = later, label = EditLabel{label}; }), (change{1, 1})) << "copied";
+  EXPECT_EQ(change_of([&] { pal = film; }), (change{1, 1}));
+  EXPECT_EQ(change_of([&] { shared.set("9"); }), (change{0, 4})) << "its share of the text, three placeholders";
+  EXPECT_EQ(text.references(), 1);
+  EXPECT_EQ(change_of([&] { std::swap(text, reel), std::swap(shape, shared), std::swap(pal, later); }), none);
+  EXPECT_EQ(change_of([&] { std::swap(label, edge), label = std::move(edge); }), none);
+  EXPECT_EQ(change_of([&] { LabelPoint const moved = std::move(film); }), (change{0, 1}));
+  EXPECT_STREQ(text.c_str(), "B002");
+  EXPECT_TRUE(*shared.text() == '2' && *label.start.label_template.text() == '-' && *pal.get_string() == ' ');
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 #include "labelsbase/counts/integers.h"
 #include "labelsbase/labelcvt/invalid_converter.h"
@@ -35,21 +36,37 @@ LabelPoint::LabelPoint(label_cvt& cvt, int at_sample)
       converter{&cvt},
       label_template{cvt.get_template(template_choice)} {}
 
-LabelPoint::LabelPoint(LabelPoint const& other) noexcept : LabelPoint{other.converter} { copy_value(other); }
+LabelPoint::LabelPoint(LabelPoint const& other) noexcept
+    : converter{other.converter}, label_template{other.label_template} {
+  copy_value(other);
+}
+
+LabelPoint::LabelPoint(LabelPoint&& other) noexcept
+    : converter{other.converter}, label_template{std::move(other.label_template)} {
+  copy_value(other);
+}
 
 LabelPoint& LabelPoint::operator=(LabelPoint const& other) noexcept {
-  if (this != &other) copy_value(other);
+  if (this == &other) return *this;
+  copy_value(other);
+  label_template = other.label_template;
+  return *this;
+}
+
+LabelPoint& LabelPoint::operator=(LabelPoint&& other) noexcept {
+  if (this == &other) return *this;
+  copy_value(other);
+  label_template = std::move(other.label_template);
   return *this;
 }
 
 // Terminates the prefix even if the other one lacks its terminator.
 void LabelPoint::copy_value(LabelPoint const& other) noexcept {
-  auto const* const end = std::find(other.prefix, other.prefix + prefix_length, '\0');
-  std::fill(std::copy(other.prefix, end, prefix), prefix + sizeof prefix, '\0');
+  std::ranges::fill(prefix, '\0');
+  for (std::size_t i = 0; i < prefix_length && other.prefix[i] != '\0'; ++i) prefix[i] = other.prefix[i];
   sample = other.sample;
   converter = other.converter;
   template_choice = other.template_choice;
-  label_template = other.label_template;
 }
 
 void LabelPoint::init() noexcept {

@@ -61,6 +61,10 @@ class LABELSBASE_API LabelPoint {
   LabelPoint(LabelPoint const& other) noexcept;
   LabelPoint& operator=(LabelPoint const& other) noexcept;
 
+  // Move likewise, without a change of use counts. The other point keeps its value, but not its template.
+  LabelPoint(LabelPoint&& other) noexcept;
+  LabelPoint& operator=(LabelPoint&& other) noexcept;
+
   ~LabelPoint() = default;
 
   // Makes this the invalid point again, with an empty text.
@@ -103,8 +107,10 @@ class LABELSBASE_API LabelPoint {
 
  private:
   friend struct invalid_point_maker;
+  friend class Label;
   constexpr explicit LabelPoint(label_cvt* invalid) noexcept : converter{invalid} {}
 
+  // Copies all but the text and the template.
   LABELSBASE_LOCAL void copy_value(LabelPoint const& other) noexcept;
 };
 

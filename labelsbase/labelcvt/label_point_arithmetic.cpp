@@ -40,7 +40,8 @@ constexpr int leading_digit(int shorter_count) noexcept { return shorter_count =
 
 // Returns a point of the converter of both, or the invalid point if their types differ.
 LabelPoint point_of_both(LabelPoint const& a, LabelPoint const& b, int sample) {
-  if (a.converter->type() == b.converter->type()) return LabelPoint{*a.converter, sample};
+  if (a.converter == b.converter || a.converter->type() == b.converter->type())
+    return LabelPoint{*a.converter, sample};
   LabelPoint refused = invalid_label_point;
   refused.template_choice = true;
   return refused;

@@ -1,6 +1,7 @@
 #include "labelsbase/labelcvt/label_template.h"
 
 #include <algorithm>
+#include <cstring>
 #include <string_view>
 
 #include "labelsbase/samples.h"
@@ -13,14 +14,17 @@ namespace {
 // Whether placeholders fill the position: letters, digits, signs and free fields.
 constexpr bool is_entry(char c) noexcept { return is_alphanumeric(c) || c == '+' || c == '-' || c == '?'; }
 
+void fill_entries(char* text, std::size_t length, char fill) noexcept {
+  std::replace_if(text, text + length, is_entry, fill);
+}
+
 // Returns the text with its entry positions filled, or the text itself if that changes nothing.
 LightweightString<char> filled(LightweightString<char> const& text, char fill) noexcept {
   std::string_view const characters{text.c_str(), text.length()};
-  auto const changes = [fill](char c) { return is_entry(c) && c != fill; };
-  if (std::ranges::none_of(characters, changes)) return text;
+  if (std::ranges::none_of(characters, [fill](char c) { return is_entry(c) && c != fill; })) return text;
 
   LightweightString<char> result{text.c_str(), text.length()};
-  if (char* const begin = result.detach()) std::replace_if(begin, begin + result.length(), changes, fill);
+  if (char* const begin = result.detach()) fill_entries(begin, result.length(), fill);
   return result;
 }
 
@@ -37,6 +41,15 @@ void LabelTemplate::set(LightweightString<char> const& text) noexcept {
   invalid_ = filled(text, '?');
   past_end_ = filled(text, '>');
   before_start_ = filled(text, '<');
+}
+
+// All converters come here. One buffer makes one count to change when a point is copied, not four.
+void LabelTemplate::set(char const* text) noexcept {
+  std::size_t const length = std::strlen(or_empty(text));
+  char* copy =
+      LightweightString<char>::set_in_one_buffer({&text_, &invalid_, &past_end_, &before_start_}, text, length);
+  if (!copy) return;
+  for (char const fill : {'?', '>', '<'}) fill_entries(copy += text_.capacity(), length, fill);
 }
 
 bool LabelTemplate::isAtSeparator(unsigned pos) const noexcept {

@@ -30,9 +30,11 @@ class LABELSBASE_API LabelTemplate {
   LabelTemplate(LightweightString<char> const& text) noexcept {
     set(text);
   }  // NOLINT(google-explicit-constructor)
+  explicit LabelTemplate(char const* text) noexcept { set(text); }
 
-  // Sets the template's text, and derives the placeholders from it.
+  // Sets the template's text, and derives the placeholders from it. The first form shares the buffer of the text.
   void set(LightweightString<char> const& text) noexcept;
+  void set(char const* text) noexcept;
 
   // Returns the template's text; "" for an empty template.
   [[nodiscard]] char const* text() const noexcept { return text_.c_str(); }

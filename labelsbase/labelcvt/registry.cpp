@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <string_view>
 #include <type_traits>
 
@@ -135,9 +136,13 @@ converters const& shared_converters() {
 }  // namespace
 
 label_cvt* get_static_label_cvt(label_t type) {
-  if (is_building) return &invalid_converter.converter;
-  auto const& shared = shared_converters();
-  if (is_label_type(type)) return shared[static_cast<std::size_t>(type)];
+  static constinit std::atomic<converters const*> built{nullptr};
+  auto const* shared = built.load(std::memory_order_acquire);
+  if (!shared) {
+    if (is_building) return &invalid_converter.converter;
+    built.store(shared = &shared_converters(), std::memory_order_release);
+  }
+  if (is_label_type(type)) return (*shared)[static_cast<std::size_t>(type)];
   broken("false", labelcvt_module);
   return &invalid_converter.converter;
 }

@@ -26,6 +26,11 @@ EditLabel::EditLabel(EditLabel const& other)
   howmany.fetch_add(1, std::memory_order_relaxed);
 }
 
+EditLabel::EditLabel(EditLabel&& other) noexcept
+    : Label{static_cast<Label&&>(other)}, medium_roll{other.medium_roll}, reserved_flag{other.reserved_flag} {
+  howmany.fetch_add(1, std::memory_order_relaxed);
+}
+
 EditLabel::EditLabel(char const* keep) : Label{keep} {
   howmany.fetch_add(1, std::memory_order_relaxed);
   char const* const word = std::strstr(or_empty(keep), MediumRollId_name_str());
@@ -40,6 +45,13 @@ EditLabel::EditLabel(char const* keep) : Label{keep} {
 EditLabel& EditLabel::operator=(EditLabel const& other) {
   if (this == &other) return *this;
   Label::operator=(other);
+  medium_roll = other.medium_roll;
+  return *this;
+}
+
+EditLabel& EditLabel::operator=(EditLabel&& other) {
+  if (this == &other) return *this;
+  Label::operator=(static_cast<Label&&>(other));
   medium_roll = other.medium_roll;
   return *this;
 }

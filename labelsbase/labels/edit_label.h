@@ -44,6 +44,10 @@ class LABELSBASE_API EditLabel : public Label {
   // Copies the label part and the medium and roll.
   EditLabel& operator=(EditLabel const& other);
 
+  // Move likewise, without a change of use counts. The other label keeps its value, but not its template.
+  EditLabel(EditLabel&& other) noexcept;
+  EditLabel& operator=(EditLabel&& other);
+
   ~EditLabel();
 
   // Sets the medium and roll, the speed of the type there, and the reserved flag. Clears pitch_fixed.

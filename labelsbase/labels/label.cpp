@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <string_view>
+#include <utility>
 
 #include "host/current_project.h"
 #include "labelsbase/counts/integers.h"
@@ -30,26 +31,45 @@ Label::Label(LabelPoint const& point)
 Label::Label(Label const& other)
     : start{other.start}, length{other.length}, pitch{other.pitch}, bounded{other.bounded} {}
 
+Label::Label(Label&& other) noexcept
+    : start{std::move(other.start)}, length{other.length}, pitch{other.pitch}, bounded{other.bounded} {}
+
 Label& Label::operator=(Label const& other) {
   if (this == &other) return *this;
-  start = other.start;
-  use_converter(other.start.converter->type());
+  copy_value(other);
+  use_template();
+  return *this;
+}
+
+Label& Label::operator=(Label&& other) {
+  if (this == &other) return *this;
+  copy_value(other);
+  start.label_template = std::move(other.start.label_template);  // nearly always the type's already
+  use_template();
+  return *this;
+}
+
+// Copies all but the revision and the template, to the shared converter of the type.
+void Label::copy_value(Label const& other) {
+  start.copy_value(other.start);
+  start.converter = get_static_label_cvt(other.start.converter->type());
   length = other.length;
   pitch = other.pitch;
   bounded = other.bounded;
   start.converter->set_prefix(&start, other.get_string(0));
-  return *this;
 }
+
+void Label::use_converter(label_t type) {
+  start.converter = get_static_label_cvt(type);
+  use_template();
+}
+
+void Label::use_template() { start.label_template = start.converter->get_template(start.template_choice); }
 
 void Label::init() noexcept {
   revision = 1;
   pitch = 0.0;
   bounded = 0;
-}
-
-void Label::use_converter(label_t type) {
-  start.converter = get_static_label_cvt(type);
-  start.label_template = start.converter->get_template(start.template_choice);
 }
 
 void Label::set_type(label_t type) {

@@ -64,6 +64,10 @@ class LABELSBASE_API Label {
   Label(Label const& other);
   Label& operator=(Label const& other);
 
+  // Move likewise, without a change of use counts. The other label keeps its value, but not its template.
+  Label(Label&& other) noexcept;
+  Label& operator=(Label&& other);
+
   ~Label() = default;
 
   // Sets revision 1, pitch 0 and unbounded. The start and the length stay.
@@ -151,7 +155,9 @@ class LABELSBASE_API Label {
   std::size_t write_keep_string(char* buffer, std::size_t size) const;
 
  private:
+  LABELSBASE_LOCAL void copy_value(Label const& other);
   LABELSBASE_LOCAL void use_converter(label_t type);
+  LABELSBASE_LOCAL void use_template();
 };
 
 // Returns the one invalid label: a label of the invalid point.
