@@ -43,7 +43,7 @@ class Ptr {
   // count, it stays as it is.
   Ptr(Ptr const& other) noexcept : count_{other.count_}, object_{other.object_} { raise(); }
 
-  Ptr& operator=(Ptr const& other) noexcept {
+  Ptr& operator=(Ptr const& other) noexcept {  // NOLINT(bugprone-unhandled-self-assignment): one count too
     if (count_ != other.count_) {
       other.raise();
       lower();

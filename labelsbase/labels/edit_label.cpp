@@ -49,6 +49,7 @@ EditLabel& EditLabel::operator=(EditLabel const& other) {
   return *this;
 }
 
+// NOLINTNEXTLINE(performance-noexcept-move-constructor)
 EditLabel& EditLabel::operator=(EditLabel&& other) {
   if (this == &other) return *this;
   Label::operator=(static_cast<Label&&>(other));

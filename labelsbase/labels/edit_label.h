@@ -46,6 +46,7 @@ class LABELSBASE_API EditLabel : public Label {
 
   // Move likewise, without a change of use counts. The other label keeps its value, but not its template.
   EditLabel(EditLabel&& other) noexcept;
+  // NOLINTNEXTLINE(performance-noexcept-move-constructor): hosts' converters may throw
   EditLabel& operator=(EditLabel&& other);
 
   ~EditLabel();

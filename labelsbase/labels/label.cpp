@@ -41,6 +41,7 @@ Label& Label::operator=(Label const& other) {
   return *this;
 }
 
+// NOLINTNEXTLINE(performance-noexcept-move-constructor)
 Label& Label::operator=(Label&& other) {
   if (this == &other) return *this;
   copy_value(other);

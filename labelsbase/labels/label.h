@@ -66,6 +66,7 @@ class LABELSBASE_API Label {
 
   // Move likewise, without a change of use counts. The other label keeps its value, but not its template.
   Label(Label&& other) noexcept;
+  // NOLINTNEXTLINE(performance-noexcept-move-constructor): hosts' converters may throw
   Label& operator=(Label&& other);
 
   ~Label() = default;
