@@ -31,8 +31,8 @@ void output::write(std::string_view text) noexcept {
   }
 }
 
-void output::line(std::string_view text) noexcept {
-  write(text);
+void output::write_across_blocks(std::string_view line) noexcept {
+  write(line);
   write("\n");
 }
 

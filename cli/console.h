@@ -6,6 +6,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -27,7 +28,12 @@ class output {
   void write(std::string_view text) noexcept;
 
   // Writes the text or number and ends the line.
-  void line(std::string_view text) noexcept;
+  void line(std::string_view text) noexcept {
+    if (text.size() >= buffer_.size() - used_) return write_across_blocks(text);
+    std::memcpy(buffer_.data() + used_, text.data(), text.size());
+    used_ += text.size();
+    buffer_[used_++] = '\n';
+  }
   void line(std::int32_t number) noexcept;
 
   // Writes out what has been collected.
@@ -37,6 +43,8 @@ class output {
   [[nodiscard]] int error() const noexcept { return error_; }
 
  private:
+  void write_across_blocks(std::string_view line) noexcept;
+
   int fd_;
   int error_ = 0;
   std::size_t used_ = 0;

@@ -1,8 +1,12 @@
 // labels: converts labels to samples and back.
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
 #include <exception>
+#include <iterator>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "cli/commands.h"
@@ -25,6 +29,37 @@ constexpr command_row commands[] = {
 #undef LABELS_COMMAND_ROW
 };
 
+// The commands that tell of the others.
+constexpr std::string_view describing[] = {"schema", "help", "manual", "completion"};
+
+// Adds the commands, and declares the arguments of one when its name is read: those of all would take most of the
+// time of a short run. `run` becomes what the command that is read runs.
+class command_set {
+ public:
+  command_set(CLI::App& app, cli::command_run& run) : run_{run} {
+    for (std::size_t i = 0; i < std::size(commands); ++i) {
+      added_[i].app = app.add_subcommand(commands[i].name, commands[i].purpose)->group("Commands");
+      added_[i].app->preparse_callback([this, i](std::size_t) { choose(i); });
+    }
+  }
+
+ private:
+  struct added_command {
+    CLI::App* app = nullptr;
+    cli::command_run run{};  // empty until its arguments are declared
+  };
+
+  void choose(std::size_t chosen) {
+    bool const needs_all = std::ranges::count(describing, commands[chosen].name) > 0;
+    for (std::size_t i = 0; i < added_.size(); ++i)
+      if ((needs_all || i == chosen) && !added_[i].run) added_[i].run = commands[i].declare(*added_[i].app);
+    run_ = added_[chosen].run;
+  }
+
+  cli::command_run& run_;
+  std::array<added_command, std::size(commands)> added_;
+};
+
 constexpr char const* about =
     "Converts labels (timecode, film key numbers, ink numbers, feet and frames) to samples and back.\n"
     "\n"
@@ -36,11 +71,11 @@ constexpr char const* about =
 
 constexpr char const* examples =
     "Examples:\n"
-    "  labels show 30f-drop 0 1799 1800 17982\n"
-    "  labels read 24f 00:59:54:18 01:00:07+00\n"
-    "  awk '/^[0-9]+ /{print $NF}' cut.edl | labels read 25f\n"
-    "  labels show F353 --prefix KJ123456 0 3 62\n"
-    "  labels --set config.50p_timecode_type=2 show 50f 7\n"
+    "  labels show 29.97df 0 1799 1800 17982\n"
+    "  labels read 24 00:59:54:18 01:00:07+00\n"
+    "  awk '/^[0-9]+ /{print $NF}' cut.edl | labels read 25\n"
+    "  labels show 35mm-3p --prefix KJ123456 0 1 21\n"
+    "  labels --set config.50p_timecode_type=2 show 50 7\n"
     "\n"
     "Run 'labels COMMAND --help' for the arguments of a command and more examples.\n";
 
@@ -85,10 +120,7 @@ cli::exit_status parse_and_run(int argc, char const* const* argv, cli::console& 
   app.footer(cli::settings_help() + "\n" + examples);
 
   cli::command_run run;
-  for (auto const& [name, purpose, declare] : commands) {
-    auto& command = *app.add_subcommand(name, purpose)->group("Commands");
-    command.parse_complete_callback([&run, chosen = declare(command)] { run = chosen; });
-  }
+  command_set const all{app, run};
 
   try {
     app.parse(argc, argv);

@@ -1,10 +1,12 @@
-// Reads any text as a name in an edit decision list, a label choice, a medium, a template and a settings file.
+// Reads any text as a name of a label type, a label choice, a medium, a template and a settings file.
 
 #include <cctype>
 #include <sstream>
 
 #include "fuzz/fuzz_input.h"
+#include "labelnames/names.h"
 #include "labelsbase/MediumRoll/medium_roll.h"
+#include "labelsbase/labelcvt/label_facts.h"
 #include "labelsbase/labels.h"
 #include "labelsbase/uiflabels.h"
 #include "refhost/refhost.h"
@@ -26,6 +28,11 @@ int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
   demand(film == null_label_t || film == type, "film types are among them", text);
   (void)edlstr_to_label_type(text.c_str(), family);
   (void)get_label_type(text.c_str());
+
+  auto const named = labelnames::find(text);
+  demand(!named || labelsbase::facts_of(named->type).has_labels(), "a name is that of a type with labels", text);
+  for (auto const& near : labelnames::nearest(text))
+    demand(labelnames::find(near).has_value(), "near names are names", text);
 
   auto const choice = config_str_to_uifLabel(text.c_str());
   demand(choice < 0 || !std::strcmp(uifLabel_to_config_str(choice), text.c_str()), "a choice has its keyword",

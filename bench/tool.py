@@ -1,0 +1,92 @@
+#!/usr/bin/env python3
+"""Measures `labels read` and `labels show` beside cat and beside a C program, and how the tool starts.
+
+usage: tool.py PATH-OF-labels [LINES]
+
+Each program stands in the same pipe, `cat input | PROGRAM | cat >/dev/null`. The table shows nanoseconds of processor
+time for a line, the least of three runs, and the ratio to cat. A busy machine changes elapsed time, not the ratio.
+"""
+
+import os
+import re
+import subprocess
+import sys
+import tempfile
+
+FAMILIES = {  # frames that have a label, options of the tool
+    "25": (2160000, []),
+    "29.97df": (2589408, []),
+    "35mm": (160000, ["--prefix", "KJ123456"]),
+    "ink35": (160000, ["--prefix", "AB12"]),
+    "feet35": (160000, []),
+}
+
+
+def processor_time(command, source):
+    """Runs the command in the pipe. Returns its seconds of processor time and its most memory, in KiB."""
+    with open(source, "rb") as given, open(os.devnull, "wb") as nowhere:
+        feed = subprocess.Popen(["cat"], stdin=given, stdout=subprocess.PIPE)
+        work = subprocess.Popen(command, stdin=feed.stdout, stdout=subprocess.PIPE)
+        feed.stdout.close()
+        drain = subprocess.Popen(["cat"], stdin=work.stdout, stdout=nowhere)
+        work.stdout.close()
+        _, status, usage = os.wait4(work.pid, 0)
+        work.returncode = status
+        feed.wait()
+        drain.wait()
+    if status:
+        sys.exit(f"{' '.join(command)}: status {status}")
+    return usage.ru_utime + usage.ru_stime, usage.ru_maxrss
+
+
+def measure(lines, tool, peer, folder):
+    print(f"{lines} lines; ns of processor time a line, and the ratio to cat\n")
+    print("| | cat | C program | labels | labels / cat | C program / labels | MB of memory |")
+    print("|---|---|---|---|---|---|---|")
+    for name, (frames, options) in FAMILIES.items():
+        numbers = os.path.join(folder, "numbers")
+        labels = os.path.join(folder, "labels")
+        with open(numbers, "w", encoding="ascii") as out:
+            out.writelines(f"{i * 7919 % frames}\n" for i in range(lines))
+        with open(numbers, "rb") as given, open(labels, "wb") as out:
+            subprocess.run([tool, "show", name, *options], stdin=given, stdout=out, check=True)
+        for verb, source in (("show", numbers), ("read", labels)):
+            commands = {"cat": ["cat"], "C": [peer, verb, name], "labels": [tool, verb, name, *options]}
+            least = {key: min(processor_time(command, source) for _ in range(3)) for key, command in commands.items()}
+            ns = {key: seconds / lines * 1e9 for key, (seconds, _) in least.items()}
+            print(f"| {verb} {name} | {ns['cat']:.0f} | {ns['C']:.0f} | {ns['labels']:.0f} | "
+                  f"{ns['labels'] / ns['cat']:.1f} | {ns['C'] / ns['labels']:.1f} | {least['labels'][1] / 1024:.0f} |",
+                  flush=True)
+
+
+def start_up(tool):
+    """Prints what the tool does before its first line."""
+    command = [tool, "show", "25", "1"]
+    seconds = []
+    for _ in range(50):
+        work = subprocess.Popen(command, stdout=subprocess.DEVNULL, env={**os.environ, "LD_BIND_NOW": "1"})
+        _, work.returncode, usage = os.wait4(work.pid, 0)
+        seconds.append(usage.ru_utime + usage.ru_stime)
+    loader = subprocess.run(command, capture_output=True, text=True, check=True,
+                            env={**os.environ, "LD_BIND_NOW": "1", "LD_DEBUG": "statistics"}).stderr
+    looked_up = re.search(r"final number of relocations: (\d+)", loader)
+    sections = subprocess.run(["readelf", "-SW", tool], capture_output=True, text=True, check=True).stdout
+    constructors = re.search(r"\.init_array\s+INIT_ARRAY\s+\S+\s+\S+\s+(\S+)", sections)
+    print(f"\nstart of `labels show 25 1`: {sorted(seconds)[len(seconds) // 2] * 1000:.1f} ms of processor time, "
+          f"{looked_up[1]} symbols looked up, {int(constructors[1], 16) // 8} static constructors in the tool")
+
+
+def main():
+    if len(sys.argv) not in (2, 3):
+        sys.exit(__doc__)
+    tool = sys.argv[1]
+    with tempfile.TemporaryDirectory() as folder:
+        peer = os.path.join(folder, "tool_peer")
+        source = os.path.join(os.path.dirname(os.path.abspath(__file__)), "tool_peer.cpp")
+        subprocess.run(["c++", "-std=c++20", "-O3", source, "-o", peer], check=True)
+        measure(int(sys.argv[2]) if len(sys.argv) == 3 else 10_000_000, tool, peer, folder)
+    start_up(tool)
+
+
+if __name__ == "__main__":
+    main()
