@@ -21,7 +21,7 @@ bool are_one_file(int a, int b) noexcept {
 
 }  // namespace
 
-void output::write(std::string_view text) noexcept {
+void output::write_across_blocks(std::string_view text) noexcept {
   while (!text.empty()) {
     if (used_ == buffer_.size()) flush();
     auto const part = text.substr(0, buffer_.size() - used_);
@@ -29,11 +29,6 @@ void output::write(std::string_view text) noexcept {
     used_ += part.size();
     text.remove_prefix(part.size());
   }
-}
-
-void output::write_across_blocks(std::string_view line) noexcept {
-  write(line);
-  write("\n");
 }
 
 void output::line(std::int32_t number) noexcept {

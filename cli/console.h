@@ -25,14 +25,16 @@ class output {
   output(output const&) = delete;
   output& operator=(output const&) = delete;
 
-  void write(std::string_view text) noexcept;
+  void write(std::string_view text) noexcept {
+    if (text.size() > buffer_.size() - used_) return write_across_blocks(text);
+    std::memcpy(buffer_.data() + used_, text.data(), text.size());
+    used_ += text.size();
+  }
 
   // Writes the text or number and ends the line.
   void line(std::string_view text) noexcept {
-    if (text.size() >= buffer_.size() - used_) return write_across_blocks(text);
-    std::memcpy(buffer_.data() + used_, text.data(), text.size());
-    used_ += text.size();
-    buffer_[used_++] = '\n';
+    write(text);
+    write("\n");
   }
   void line(std::int32_t number) noexcept;
 
@@ -43,7 +45,7 @@ class output {
   [[nodiscard]] int error() const noexcept { return error_; }
 
  private:
-  void write_across_blocks(std::string_view line) noexcept;
+  void write_across_blocks(std::string_view text) noexcept;
 
   int fd_;
   int error_ = 0;

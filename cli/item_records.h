@@ -30,25 +30,28 @@ template <typename Take>
   constexpr std::size_t most_fields = 12;
   std::array<value, most_fields> values;
   std::span const row{values.data(), fields.size()};
+  std::span const found = row.subspan(1, row.size() - 2);
   record_writer records{how, fields, io.results, text_layout::lines};
+  if (records.is_text())
+    return for_each_item(given, io, [&](std::string_view text) -> problem {
+      std::ranges::fill(found, missing);
+      if (auto wrong = take(text, found)) return wrong;
+      records.write(row);
+      return std::nullopt;
+    });
 
   item_loop items{given.operands, io};
   while (items.next()) {
-    if (items.is_blank_line()) {
-      if (records.is_text()) io.results.line("");
-      continue;
-    }
-    problem wrong;
+    if (items.is_blank_line()) continue;
     std::ranges::fill(row, missing);
-    if (!items.is_refused()) wrong = take(items.text(), row.subspan(1, row.size() - 2));
-    if (wrong || items.is_refused()) {
-      if (records.is_text()) io.results.line(given.refused);
-      if (wrong) items.refuse(*wrong);
-      if (records.is_text()) continue;
-      std::ranges::fill(row, missing);
-      row.back() = std::string_view{items.reason()};
-    }
     row.front() = items.text();
+    if (!items.is_refused()) {
+      if (auto const wrong = take(items.text(), found)) {
+        items.refuse(*wrong);
+        std::ranges::fill(found, missing);
+      }
+    }
+    if (items.is_refused()) row.back() = std::string_view{items.reason()};
     records.write(row);
   }
   return items.status();
