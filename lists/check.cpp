@@ -166,6 +166,11 @@ class list_checker final : public list_sink {
   }
 
   void check_order(list_event const& event, std::int64_t in, std::int64_t length) {
+    // Past midnight, a list goes on behind the events before it.
+    auto const day = frames_per_day(result_.rate->type);
+    if (in + day / 2 < last_in_) in += day;
+    last_in_ = in;
+
     auto const& label = event.record.in;
     record_order::overlap widest{};
     std::string_view on;
@@ -193,6 +198,7 @@ class list_checker final : public list_sink {
   bool has_reported_marks_ = false;
   std::vector<std::variant<list_event, placed_mode>> held_;
   record_order order_;
+  std::int64_t last_in_ = 0;  // of the record, in frames
 };
 
 }  // namespace
