@@ -31,8 +31,8 @@ void output::write_across_blocks(std::string_view text) noexcept {
   }
 }
 
-void output::line(std::int32_t number) noexcept {
-  constexpr std::size_t longest = sizeof "-2147483648";  // the newline takes the place of the terminator
+void output::line(std::int64_t number) noexcept {
+  constexpr std::size_t longest = sizeof "-9223372036854775808";  // the newline takes the place of the terminator
   if (buffer_.size() - used_ < longest) flush();
   char* const out = buffer_.data() + used_;
   char* const end = std::to_chars(out, out + longest, number).ptr;
@@ -54,7 +54,9 @@ void output::flush() noexcept {
   used_ = 0;
 }
 
-console::console() noexcept : messages_{are_one_file(STDOUT_FILENO, STDERR_FILENO) ? results : errors_} {}
+console::console() noexcept
+    : messages_{are_one_file(STDOUT_FILENO, STDERR_FILENO) ? results : errors_},
+      progress_{&messages_ == &errors_ && isatty(STDERR_FILENO) == 1} {}
 
 void console::say(std::string_view message) noexcept {
   messages_.write("labels: ");
@@ -66,11 +68,13 @@ void console::hint(std::string_view message) {
 }
 
 void console::flush() noexcept {
+  if (!errors_.is_empty()) progress_.clear();
   results.flush();
   errors_.flush();
 }
 
 exit_status console::finish(exit_status so_far) noexcept {
+  progress_.clear();
   flush();
   if (results.error() == 0) return so_far;
 

@@ -10,6 +10,8 @@
 #include <string>
 #include <string_view>
 
+#include "cli/progress.h"
+
 namespace cli {
 
 enum exit_status : int {
@@ -36,13 +38,15 @@ class output {
     write(text);
     write("\n");
   }
-  void line(std::int32_t number) noexcept;
+  void line(std::int64_t number) noexcept;
 
   // Writes out what has been collected.
   void flush() noexcept;
 
   // Returns the errno of the write that failed, or 0.
   [[nodiscard]] int error() const noexcept { return error_; }
+
+  [[nodiscard]] bool is_empty() const noexcept { return used_ == 0; }
 
  private:
   void write_across_blocks(std::string_view text) noexcept;
@@ -76,12 +80,16 @@ class console {
 
   void flush() noexcept;
 
+  // Shows on a terminal how far a file has been read, if that takes long. To be called before each block is read.
+  void show_progress(int fd) { progress_.update(fd); }
+
   // Flushes, reports a failure to write the results, and returns the program's exit code.
   [[nodiscard]] exit_status finish(exit_status so_far) noexcept;
 
  private:
   output errors_{STDERR_FILENO};
   output& messages_;  // `results` if both go to one file or terminal, to keep messages and results in order
+  progress_line progress_;
 };
 
 // Returns the message that refuses a value: `--key "1": expected a key of 4 digits and a frame of 2`.

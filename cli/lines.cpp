@@ -38,6 +38,7 @@ bool line_reader::refill() {
   begin_ = block_.data();
 
   io_.flush();
+  io_.show_progress(STDIN_FILENO);
   ssize_t bytes = 0;
   do {
     bytes = ::read(STDIN_FILENO, end_, static_cast<std::size_t>(block_.data() + block_.size() - 1 - end_));

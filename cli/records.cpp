@@ -124,6 +124,10 @@ void write_tsv_text(std::string_view text, output& out) {
 
 record_writer::record_writer(format how, std::span<field const> fields, output& out, text_layout layout)
     : how_{how}, layout_{layout}, fields_{fields}, out_{out} {
+  auto const has_heading = [](field const& each) { return each.heading != nullptr; };
+  bool const is_only = std::ranges::count_if(fields_, has_heading) == 1;
+  auto const first = std::ranges::find_if(fields_, has_heading) - fields_.begin();
+  only_shown_ = is_only ? static_cast<std::size_t>(first) : fields_.size();
   if (how_ == format::json) out_.write("[");
   if (how_ == format::csv || how_ == format::tsv) {
     std::vector<value> names;
@@ -160,6 +164,10 @@ void record_writer::write(std::span<value const> row) {
 }
 
 void record_writer::write_line(std::span<value const> row) {
+  if (only_shown_ < row.size()) {
+    if (auto const* const text = std::get_if<std::string_view>(&row[only_shown_])) return out_.line(*text);
+    if (auto const* const number = std::get_if<std::int64_t>(&row[only_shown_])) return out_.line(*number);
+  }
   std::string_view separator;
   for (std::size_t i = 0; i < row.size(); ++i) {
     bool const is_shown = fields_[i].heading && !std::holds_alternative<std::monostate>(row[i]);

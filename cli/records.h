@@ -94,6 +94,7 @@ class record_writer {
   text_layout layout_;
   std::span<field const> fields_;
   output& out_;
+  std::size_t only_shown_ = 0;  // the only field with a heading; past the end if there are none or several
   bool is_first_ = true;
   std::vector<std::vector<std::string>> table_;  // the texts of all rows
 };

@@ -18,3 +18,12 @@ TEST_F(Tool, WritesRowsInEveryFormat) {
       {"labels schema cadence", "", "COMMAND \"cadence\": expected a command that has --format: ", 2},
   });
 }
+
+// The reader of the pipe waits, so that the tool takes long.
+TEST_F(Tool, ShowsOnATerminalHowFarItHasReadAFile) {
+  expect(
+      {{"seq 300000 >n; script -qec 'labels show 25 <n | (sleep 1; wc -l)' /dev/null | tr '\\r' '\\n'"
+        " | grep -oE '[0-9]+ % of 2 MB, [0-9]+ [kM]B/s, [0-9]+ s left' | sed 's/[0-9].* % .*/progress/' | "
+        "sort -u",
+        "progress\n"}});
+}

@@ -92,7 +92,10 @@ class checking {
 
   exit_status check(std::string const& name) {
     input_file const file{name};
-    lists::line_reader lines{file.fd(), [this] { io_.flush(); }};
+    lists::line_reader lines{file.fd(), [&] {
+                               io_.flush();
+                               io_.show_progress(file.fd());
+                             }};
     if (auto const why = lists::why_unreadable(lines.beginning())) return fail(name, *why);
 
     std::int64_t found = 0;
