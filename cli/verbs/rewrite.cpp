@@ -39,7 +39,10 @@ std::string summary(list_rewriter const& done) {
 list_rewriter rewrite_to(output& out, std::string const& name, label_converter& labels, arguments const& given,
                          console& io) {
   input_file const file{name};
-  lists::line_reader lines{file.fd(), [&io] { io.flush(); }};
+  lists::line_reader lines{file.fd(), [&] {
+                             io.flush();
+                             io.show_progress(file.fd());
+                           }};
   if (auto const why = lists::why_unreadable(lines.beginning())) throw std::runtime_error{name + ": " + *why};
 
   list_rewriter rewriter{labels, given.columns, name, out, io};
