@@ -10,8 +10,11 @@
 //   add_format(command, given->format, reel_fields);                              // declares --format
 //   record_writer reels{find_format(given->format), reel_fields, io.results};
 //   reels.write({"A001", 1440, missing});
-//   // text: a table with headings     csv: A001,1440,     json:
-//   {"reel":"A001","length_frames":1440,"problem":null}
+//
+//   format     what is written
+//   text       a table with headings
+//   csv        A001,1440,
+//   json       {"reel":"A001","length_frames":1440,"problem":null}
 #pragma once
 
 #include <cstdint>

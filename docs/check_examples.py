@@ -74,7 +74,8 @@ def build(build_dir, program, sources, *libraries):
     library_dir = build_dir / "labelsbase"
     subprocess.run(
         [COMPILER, "-std=c++20", "-Wall", "-Wextra", "-Wno-trigraphs", "-Wno-unused", "-I", ROOT, *sources]
-        + ["-o", program, build_dir / "labelcheck/liblabelcheck.a", "-L", library_dir, "-llabelsbase", *libraries]
+        + ["-o", program, *(build_dir / f"{name}/lib{name}.a" for name in ("labelcheck", "labelconvert", "labelnames"))]
+        + ["-L", library_dir, "-llabelsbase", *libraries]
         + [f"-Wl,-rpath,{library_dir}"],
         check=True,
     )

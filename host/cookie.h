@@ -7,8 +7,8 @@
 
 // An identifier of 128 bits. The library copies it and never looks inside.
 struct Cookie {
-  std::uint64_t high = 0;
-  std::uint64_t low = 0;
+  std::uint64_t high = 0;  // bits 127 to 64
+  std::uint64_t low = 0;   // bits 63 to 0
 
   // Compares all 128 bits.
   friend bool operator==(Cookie const&, Cookie const&) = default;

@@ -15,9 +15,12 @@ namespace Kiv {
 
 // Counts references inside the counted object, through the host (host/os.h).
 struct InternalRefCountTraits {
-  using count_type = std::int32_t;
+  using count_type = std::int32_t;  // handles on an object
 
+  // Adds 1 to `count`.
   static void increment(count_type& count) noexcept { OS().reference_counts().increment(count); }
+
+  // Subtracts 1 from `count`, and returns true if it became 0.
   [[nodiscard]] static bool decrement(count_type& count) noexcept {
     return OS().reference_counts().decrement(count);
   }
@@ -31,7 +34,7 @@ struct InternalRefCountTraits {
 template <typename Object, typename DtorTraits, typename CountTraits>
 class Ptr {
  public:
-  using count_type = typename CountTraits::count_type;
+  using count_type = typename CountTraits::count_type;  // handles on an object
 
   // An empty handle.
   constexpr Ptr() noexcept = default;
@@ -39,10 +42,10 @@ class Ptr {
   // Takes over the count of 1 that a new object starts with.
   Ptr(count_type* count, Object* object) noexcept : count_{count}, object_{object} {}
 
-  // A copy raises the count. Assignment raises the new count before it lowers the old one; if both are the same
-  // count, it stays as it is.
+  // Raises the count.
   Ptr(Ptr const& other) noexcept : count_{other.count_}, object_{other.object_} { raise(); }
 
+  // Raises the count of the other object before it lowers that of its own. A count that both have stays as it is.
   Ptr& operator=(Ptr const& other) noexcept {  // NOLINT(bugprone-unhandled-self-assignment): one count too
     if (count_ != other.count_) {
       other.raise();
@@ -99,12 +102,14 @@ class LightweightString {
  public:
   // The header of a buffer. The characters follow it in the same block of the host's allocator.
   struct Impl {
-    Char* characters;
-    std::uint32_t length;    // characters without the terminator
-    std::uint32_t capacity;  // the smallest power of two greater than the length
-    std::int32_t references;
+    Char* characters;         // the text, terminated
+    std::uint32_t length;     // characters without the terminator
+    std::uint32_t capacity;   // the smallest power of two greater than the length
+    std::int32_t references;  // strings that share the buffer
 
+    // Ends the life of a buffer.
     struct DtorTraits {
+      // Gives the block back to the host's allocator.
       static void destroy(Impl* impl) noexcept { OS().allocator().free(impl); }
     };
   };

@@ -37,6 +37,7 @@ class ReferenceCounts {
   ~ReferenceCounts() = default;
 };
 
+// The services of the host that all of the library needs: memory and reference counts.
 class OperatingServices {
  public:
   // Returns the host's allocator, the same object for the life of the process.

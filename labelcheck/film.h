@@ -1,4 +1,4 @@
-// The strict reader of key numbers, ink numbers, feet and film frames.
+// Private: the strict reader of key numbers, ink numbers, feet and film frames.
 #pragma once
 
 #include <string>

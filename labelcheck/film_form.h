@@ -1,4 +1,4 @@
-// How the labels of film types look.
+// Private: how the labels of film types look.
 #pragma once
 
 #include <cstddef>

@@ -1,5 +1,5 @@
-// Prefix and count of key numbers and ink numbers, where people have written them with too many or too few
-// characters.
+// Private: prefix and count of key numbers and ink numbers, where people have written them with too many or too
+// few characters.
 #pragma once
 
 #include <string_view>

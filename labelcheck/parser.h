@@ -1,4 +1,4 @@
-// Takes a label apart from its start, a piece at a time.
+// Private: takes a label apart from its start, a piece at a time.
 #pragma once
 
 #include <cstddef>

@@ -30,9 +30,10 @@ namespace labelcheck {
 static_assert(perfs_per_run(labelsbase::facts_of(keycode_35_label_t)) == 640'000);
 static_assert(perfs_per_run(labelsbase::facts_of(foot_16_label_t)) == 4'000'000);
 
-// Samples are frames for timecode and film frames, perforations for other film.
+// The samples that have labels: frames for timecode and film frames, perforations for other film.
 struct sample_range {
-  std::int64_t first, last;   // both included
+  std::int64_t first;         // the lowest sample with a label
+  std::int64_t last;          // the highest sample with a label, itself included
   std::int64_t feet_run = 0;  // samples after which feet of whole frames start again at 0; 0 for other types
   int frame_samples = 1;      // samples of a frame
 

@@ -75,8 +75,8 @@ enum class reason {
 
 // What is wrong with a text: the first thing that is.
 struct refusal {
-  field wrong = field::whole;
-  reason why = reason::unrecognised;
+  field wrong = field::whole;         // the part of the label that is at fault
+  reason why = reason::unrecognised;  // what is wrong with it
 
   // Characters from the start of the text to the place where it goes wrong, at most the length of the text.
   std::size_t position = 0;

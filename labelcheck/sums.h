@@ -8,10 +8,12 @@
 
 namespace labelcheck {
 
+// Returns whether a value is a 32-bit sample, special samples included.
 [[nodiscard]] constexpr bool is_sample(std::int64_t value) noexcept {
   return value >= std::numeric_limits<std::int32_t>::min() && value <= std::numeric_limits<std::int32_t>::max();
 }
 
+// A sample that was added up, or why it has no label.
 struct sum {
   int sample;           // moved into the range of the type
   char const* problem;  // null if there is such a label; otherwise why not, in words

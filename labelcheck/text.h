@@ -1,4 +1,4 @@
-// Texts in which people write numbers.
+// Private: texts in which people write numbers.
 #pragma once
 
 #include <algorithm>

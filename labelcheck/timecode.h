@@ -1,4 +1,4 @@
-// The strict reader of timecode.
+// Private: the strict reader of timecode.
 #pragma once
 
 #include <string>

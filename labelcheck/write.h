@@ -4,8 +4,7 @@
 //   drop.write(1800)                            // "00:01:00;02"
 //   labelcheck::writer key{keycode_35_label_t, "KJ123456"};
 //   key.write(64)                               // "KJ1234560001+00"
-//   key.write(-1)                               // "": range.h says which samples have labels, and why others do
-//   not
+//   key.write(-1)                               // "": the sample has no label; range.h says why
 #pragma once
 
 #include <cstddef>
@@ -18,6 +17,7 @@
 
 namespace labelcheck {
 
+// How timecode is written; other labels have one style.
 enum class label_style {
   own,       // as the type writes it: "01:00:00.00", "01:00:00;00" and "01:00:00+00"
   exchange,  // timecode as other systems write it: ":" before the frames, ";" for drop-frame only

@@ -1,12 +1,18 @@
 // The label of another family for the same instant or the same frame.
 //
-//   conversion const to_film{{.from = {pal_label_t, Kiv::FrameRate_25}, .to = {foot_35_label_t,
-//   Kiv::FrameRate_24}}}; to_film.of(100)->sample          // 400 perforations: frame 100 at 25 feet
+//   using namespace labelconvert;
+//   track const pal{pal_label_t, Kiv::FrameRate_25};
 //
-//   conversion const to_drop{{.from = {pal_label_t, Kiv::FrameRate_25}, .to = {ntsc_drop_label_t,
-//   Kiv::FrameRate_29_97}}}; to_drop.of(25)->sample           // 30: 1 s is 29.97 frames, and the nearest frame is
-//   30 to_drop.of(25)->before           // 29 to_drop.of(25)->after            // 30 to_drop.of(25)->is_exact() //
-//   false
+//   track const feet{foot_35_label_t, Kiv::FrameRate_24};
+//   conversion const to_film{{.from = pal, .to = feet}};
+//   to_film.of(100)->sample          // 400: frame 100 of the film, at 4 perforations a frame
+//
+//   track const drop{ntsc_drop_label_t, Kiv::FrameRate_29_97};
+//   conversion const to_drop{{.from = pal, .to = drop}};
+//   to_drop.of(25)->sample           // 30: a second is 29.97 frames, and the nearest is 30
+//   to_drop.of(25)->before           // 29
+//   to_drop.of(25)->after            // 30
+//   to_drop.of(25)->is_exact()       // false
 //
 // Counts are exact: whole numbers all through. Nothing here allocates.
 #pragma once
@@ -26,6 +32,7 @@ struct answer {
   int before;
   int after;
 
+  // Whether a frame begins at the instant, so that nothing was rounded.
   [[nodiscard]] constexpr bool is_exact() const noexcept { return before == after; }
 };
 

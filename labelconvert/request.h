@@ -12,7 +12,7 @@ namespace labelconvert {
 
 // A track of labels: their type, and the speed at which their material runs. 23.976 and 24 have the same labels.
 struct track {
-  label_t type = null_label_t;
+  label_t type = null_label_t;                   // how its labels count and look
   Kiv::FrameRate rate = Kiv::FrameRate_unknown;  // frames a second
 };
 
@@ -31,16 +31,17 @@ enum class rounding {
 
 // One instant in both tracks, as samples of their types.
 struct sync_point {
-  int from = 0;
-  int to = 0;
+  int from = 0;  // sample of the track that is converted
+  int to = 0;    // sample of the track that it is converted to
 };
 
+// A conversion that is asked for.
 struct request {
-  track from{};
-  track to{};
-  std::optional<shared> by{};  // if missing, usual_share
-  sync_point sync{};
-  rounding round = rounding::near;
+  track from{};                     // the track that is converted
+  track to{};                       // the track that it is converted to
+  std::optional<shared> by{};       // what they share; if missing, usual_share
+  sync_point sync{};                // where they meet; if not set, at sample 0 of both
+  rounding round = rounding::near;  // of instants between two frames
 
   // Film to video or back: Transfer_2_3_pulldown between film or 24 frame timecode and 30 frame timecode,
   // Transfer_24_to_25 with 25 frame timecode. Frames go through the pulldown, whatever the rates; `by` is not

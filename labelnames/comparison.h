@@ -1,4 +1,4 @@
-// Names compared as people mean them.
+// Private: names compared as people mean them.
 #pragma once
 
 #include <array>

@@ -30,9 +30,9 @@ struct named_type {
 
 // A name that people use. Types that differ in speed only have a name each.
 struct name_row {
-  char const* names;  // separated by blanks: "23.976 23.98"; the first is the one to show
-  label_t type;       // for `drop_by_project`, the type without drop-frame
-  Kiv::FrameRate rate;
+  char const* names;             // separated by blanks: "23.976 23.98"; the first is the one to show
+  label_t type;                  // for `drop_by_project`, the type without drop-frame
+  Kiv::FrameRate rate;           // frames a second
   char const* meaning;           // "timecode of film and progressive video slowed for television"
   bool drop_by_project = false;  // drop-frame if the current project uses it
 
@@ -48,8 +48,7 @@ struct name_row {
 
 // Returns what a text names, or nothing if it names no type with labels.
 //
-//   name     = one of `names`, or a rate with "p" or "fps" behind it     "25", "25p", "25 fps", "29.97df",
-//   "35mm-3p"
+//   name     = one of `names`, or a rate with "p" or "fps" behind it     "25", "25p", "25 fps", "35mm-3p"
 //            | class name | exchange name                                "pal_label", "25f", "30f-drop", "P24"
 //            | "#" number                                                "#5": the number of the type
 //

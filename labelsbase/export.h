@@ -3,6 +3,7 @@
 
 #include "host/language.h"
 
+// A class, function or object that the shared library shows.
 #define LABELSBASE_API __attribute__((visibility("default")))
 
 // A private member of a class that is shown.

@@ -11,17 +11,20 @@
 namespace labelsbase {
 
 // Samples are frames, fields or perforations, by the label type.
-inline constexpr int invalid_sample = -100'000'000;
-inline constexpr int past_end_sample = 100'000'001;
-inline constexpr int before_start_sample = 100'000'002;
+
+inline constexpr int invalid_sample = -100'000'000;      // unreadable text, a value out of range
+inline constexpr int past_end_sample = 100'000'001;      // past the end of the material
+inline constexpr int before_start_sample = 100'000'002;  // before the start of the material
 
 // What timecode returns for unreadable text that begins with "-". Deliberately not the invalid sample: hosts tell
 // the two apart.
 inline constexpr int unreadable_negative_sample = 100'000'000;
 
-inline constexpr int default_label_length = 100'000'000;  // samples
+// The length of a label that is made from its type alone, in samples.
+inline constexpr int default_label_length = 100'000'000;
 
-inline constexpr double invalid_posn = 1e99;  // seconds
+// "No position", in seconds.
+inline constexpr double invalid_posn = 1e99;
 
 // Whether a sample carries a message and shows as a placeholder.
 [[nodiscard]] constexpr bool is_special_sample(int sample) noexcept {

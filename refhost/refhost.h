@@ -53,6 +53,7 @@ struct project_settings {
   // Whether film frames reach the output through a pulldown.
   bool output_pulled_down = false;
 
+  // Compares all fields.
   friend bool operator==(project_settings const&, project_settings const&) = default;
 };
 
@@ -65,6 +66,7 @@ void set_project(project_settings const& settings);
 // Sets the project while the guard lives.
 class [[nodiscard]] project_guard {
  public:
+  // Keeps the current settings, then replaces them.
   explicit project_guard(project_settings const& settings) { set_project(settings); }
   ~project_guard() { set_project(before_); }
   project_guard(project_guard const&) = delete;
@@ -89,6 +91,7 @@ void erase_config(std::string_view key);
 // Sets a key while the guard lives. Without a text, removes the key meanwhile.
 class [[nodiscard]] config_guard {
  public:
+  // Keeps the text of the key, then replaces or removes it.
   config_guard(std::string_view key, std::optional<std::string_view> text);
   ~config_guard();
   config_guard(config_guard const&) = delete;
@@ -113,9 +116,10 @@ struct setting {
 // nothing on success. Otherwise changes nothing and returns a message that names the value and what was expected.
 [[nodiscard]] std::optional<std::string> set_option(std::string_view key, std::string_view value);
 
+// What is wrong with a line of settings.
 struct settings_error {
-  int line;  // from 1
-  std::string message;
+  int line;             // from 1
+  std::string message;  // names the value and what was expected
 };
 
 // Reads lines `key = value` with the keys and values of set_option. The last line of a key wins. Skips blank lines
@@ -128,8 +132,11 @@ struct allocator_counts {
   std::int64_t live_blocks;  // allocated and not freed
   std::int64_t allocations;  // all that succeeded
 
+  // Compares all fields.
   friend bool operator==(allocator_counts const&, allocator_counts const&) = default;
 };
+
+// Returns the counts of this moment.
 [[nodiscard]] allocator_counts allocator_statistics() noexcept;
 
 // Receives each message of diagnostic_print, formatted.
@@ -138,6 +145,7 @@ using diagnostic_sink = std::function<void(std::string_view text)>;
 // Sends diagnostic_print to `sink` while the guard lives. An empty sink sends it to standard error.
 class [[nodiscard]] diagnostic_guard {
  public:
+  // Keeps the current sink, then replaces it.
   explicit diagnostic_guard(diagnostic_sink sink);
   ~diagnostic_guard();
   diagnostic_guard(diagnostic_guard const&) = delete;

@@ -107,7 +107,7 @@ enum MediumRollMedium : std::int32_t {
 [[nodiscard]] LABELSBASE_API double getSampleDurationFromMedium(MediumRollMedium medium);
 
 // Returns the type of the medium's timecode: tc_24_label_t for Medium_src_2398p. General media print the assertion
-// message and return null_label_t. The two functions are the same.
+// message and return null_label_t. The two functions are the same; hosts know both names.
 [[nodiscard]] LABELSBASE_API label_t getDefaultLabelTypeForMedium(MediumRollMedium medium) noexcept;
 [[nodiscard]] LABELSBASE_API label_t getLabelTypeForMediumFrameRate(MediumRollMedium medium) noexcept;
 
@@ -138,8 +138,8 @@ enum MediumRollMedium : std::int32_t {
 getRepresentativeSourceMediumfromFrameRate(Kiv::FrameRate rate) noexcept;
 
 // Returns the source medium that a project of this rate edits in; Medium_src_24i for all rates but 25, 30, 29.97,
-// 50, 60 and 59.94. Without a rate, that of the current project. Deliberate: 29.97 edits in the 30 frame fields,
-// 59.94 in the 60 frames and 48 in the 24 frame fields.
+// 50, 60 and 59.94. Without a rate, returns that of the current project. Deliberate: 29.97 edits in the 30 frame
+// fields, 59.94 in the 60 frames and 48 in the 24 frame fields.
 [[nodiscard]] LABELSBASE_API MediumRollMedium getDefaultEditMediumForProject(Kiv::FrameRate rate) noexcept;
 [[nodiscard]] LABELSBASE_API MediumRollMedium getDefaultEditMediumForProject();
 
@@ -149,6 +149,7 @@ getRepresentativeSourceMediumfromFrameRate(Kiv::FrameRate rate) noexcept;
 
 namespace labelsbase {
 
+// The number of media, Medium_none included: media are numbered from 0 to medium_count - 1.
 inline constexpr int medium_count = Medium_out_240pb + 1;
 
 // Returns whether the value is from 0 to medium_count - 1.

@@ -35,8 +35,8 @@ enum MediumRollGeneration : std::int32_t {
 
 // A medium and a generation. It is invalid if either is 0.
 struct LABELSBASE_API MediumRollIdent {
-  MediumRollMedium medium = Medium_none;
-  MediumRollGeneration generation = Gen_unknown;
+  MediumRollMedium medium = Medium_none;          // what the material is on
+  MediumRollGeneration generation = Gen_unknown;  // how many copies away from the original
 
   // Returns 1 if `other` can stand where this one is asked for, otherwise 0. Medium_any and Gen_any accept all.
   // The progressive and the interlaced medium of one rate and role accept each other. An invalid identifier
@@ -82,7 +82,7 @@ LABELSBASE_API void MediumRollId_from_tokens(tokeniser& tokens, MediumRollIdent&
 // A roll of film or tape: an identifier, and the name of a reel. Both host and library may make and delete rolls.
 class LABELSBASE_API MediumRoll : public labelsbase::host_allocated {
  public:
-  MediumRollIdent ident;
+  MediumRollIdent ident;           // medium and generation
   LightweightString<char> reelid;  // empty if there is no reel
 
   // A roll without a reel.
@@ -97,9 +97,10 @@ class LABELSBASE_API MediumRoll : public labelsbase::host_allocated {
   // Without such a text, or with a null configuration, the roll is {0, 0} without a reel. The key is not copied.
   MediumRoll(MediumRollIdent const& key, configb* config);
 
-  // A copy has a reel buffer of its own, so a roll with a reel does not equal its copy. Assignment shares the
-  // buffer, as set_reelid does.
+  // Copies the reel into a buffer of its own, so a roll with a reel does not equal its copy.
   MediumRoll(MediumRoll const& other) noexcept;
+
+  // Shares the buffer of the reel, as set_reelid does.
   MediumRoll& operator=(MediumRoll const& other) noexcept = default;
 
   virtual ~MediumRoll();
@@ -117,6 +118,8 @@ class LABELSBASE_API MediumRoll : public labelsbase::host_allocated {
   // Deliberate: equal names in two buffers differ, the order of the operands matters, and an invalid roll does not
   // equal itself.
   [[nodiscard]] bool operator==(MediumRoll const& other) const noexcept;
+
+  // Returns whether == is false.
   [[nodiscard]] bool operator!=(MediumRoll const& other) const noexcept;
 };
 

@@ -33,9 +33,11 @@ struct film_place {
   int perfs_left;  // perforations to the last one of the frame, 0 to 2 at 3-perf; 0 where a count holds whole
                    // frames
 
+  // Compares all fields.
   friend constexpr bool operator==(film_place const&, film_place const&) = default;
 };
 
+// The arithmetic of one film: perforations, frames, and what its edge is numbered by.
 class film_gauge {
  public:
   constexpr film_gauge() noexcept : film_gauge{1, 1} {}
@@ -59,6 +61,7 @@ class film_gauge {
     return gauge;
   }
 
+  // Returns the perforations of a frame, from 1 up.
   [[nodiscard]] constexpr int perfs_per_frame() const noexcept { return per_frame_.divisor(); }
 
   // Returns the perforations from one key (foot, ink number) to the next.

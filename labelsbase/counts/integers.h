@@ -12,15 +12,17 @@ namespace labelsbase {
   return static_cast<int>(static_cast<std::uint32_t>(value));
 }
 
-// Return the sum, difference or product of any two ints, wrapped at 32 bits.
+// Returns the sum of any two ints, wrapped at 32 bits.
 [[nodiscard]] constexpr int wrap_add(int a, int b) noexcept {
   return static_cast<int>(static_cast<unsigned>(a) + static_cast<unsigned>(b));
 }
 
+// Returns the difference a - b of any two ints, wrapped at 32 bits.
 [[nodiscard]] constexpr int wrap_sub(int a, int b) noexcept {
   return static_cast<int>(static_cast<unsigned>(a) - static_cast<unsigned>(b));
 }
 
+// Returns the product of any two ints, wrapped at 32 bits.
 [[nodiscard]] constexpr int wrap_mul(int a, int b) noexcept {
   return static_cast<int>(static_cast<unsigned>(a) * static_cast<unsigned>(b));
 }

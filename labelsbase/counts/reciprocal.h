@@ -19,8 +19,10 @@ class reciprocal {
   constexpr explicit reciprocal(int divisor) noexcept
       : divisor_{divisor < 1 ? 1 : divisor}, multiplier_{~std::uint64_t{0} / static_cast<unsigned>(divisor_)} {}
 
+  // Returns the divisor, from 1 up.
   [[nodiscard]] constexpr int divisor() const noexcept { return divisor_; }
 
+  // Returns dividend / divisor, rounded toward zero, for any int.
   [[nodiscard]] constexpr int quotient(int dividend) const noexcept {
     if (dividend >= 0) return static_cast<int>(quotient_of_magnitude(static_cast<unsigned>(dividend)));
     return static_cast<int>(0U - quotient_of_magnitude(0U - static_cast<unsigned>(dividend)));

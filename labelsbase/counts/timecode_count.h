@@ -29,9 +29,14 @@
 
 namespace labelsbase {
 
+// The fields of a timecode. `timecode_count::join` accepts values beyond these ranges too.
 struct timecode_fields {
-  int hours, minutes, seconds, frames;
+  int hours;    // 0 to 23 within a day
+  int minutes;  // 0 to 59
+  int seconds;  // 0 to 59
+  int frames;   // 0 to the labels of a second less 1
 
+  // Compares all fields.
   friend constexpr bool operator==(timecode_fields const&, timecode_fields const&) = default;
 };
 
@@ -44,13 +49,18 @@ class timecode_count {
   constexpr explicit timecode_count(int frames_per_second, bool drop_frame = false) noexcept
       : per_second_{frames_per_second}, drop_frame_{drop_frame} {}
 
+  // Returns the labels of a second: 30 for drop-frame, too.
   [[nodiscard]] constexpr int frames_per_second() const noexcept { return per_second_.divisor(); }
+
+  // Whether labels are left out to keep up with 30000/1001 frames a second.
   [[nodiscard]] constexpr bool is_drop_frame() const noexcept { return drop_frame_; }
 
-  // Returns the labels of an hour or a day. Above 24855 frames a second a day wraps at 32 bits.
+  // Returns the labels of an hour, which wrap at 32 bits above 596523 frames a second.
   [[nodiscard]] constexpr int labels_per_hour() const noexcept {
     return drop_frame_ ? drop_hour : wrap_mul(frames_per_second(), 3'600);
   }
+
+  // Returns the labels of a day, which wrap at 32 bits above 24855 frames a second.
   [[nodiscard]] constexpr int labels_per_day() const noexcept { return wrap_mul(labels_per_hour(), 24); }
 
   // Returns the fields of a sample. Hours run past 23 for samples beyond a day; a negative sample has negative

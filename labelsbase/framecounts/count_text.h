@@ -72,19 +72,28 @@ LABELSBASE_API int film_frames_to_keycode(int film, char* text, int phase, int* 
                                           int per_key, unsigned char digits) noexcept;
 
 // The rest reads or writes a text as above and crosses a pulldown (pulldown.h). `phase` is the phase of the
-// pulldown, `key_phase` that of the key. Readers:
+// pulldown, `key_phase` that of the key.
 
+// Reads timecode and writes the film frame that its video frame shows. `phase_out` receives the phase there.
 LABELSBASE_API int timecode_to_film_frames(int* film, char* text, int phase, int* phase_out, label_type label,
                                            int drop, transfer_type transfer) noexcept;
+
+// Reads a key number and writes the first video frame that shows its film frame.
 LABELSBASE_API int keycode_to_video_frames(int* video, char* text, int key_phase, int* key_phase_out, int phase,
                                            label_type label, transfer_type transfer, int per_key) noexcept;
+
+// Reads film timecode and writes the first video frame that shows its film frame.
 LABELSBASE_API int filmtc_to_video_frames(int* video, char* text, int phase, transfer_type transfer) noexcept;
 
-// Writers:
-
+// Writes the timecode of the first video frame that shows a film frame. `last_phase` is the phase that the frame
+// before was left with, or -1: see film_frames_to_video_frames.
 LABELSBASE_API int film_frames_to_timecode(int film, char* text, int phase, int last_phase, label_type label,
                                            int drop, transfer_type transfer) noexcept;
+
+// Writes the key number of the film frame that a video frame shows.
 LABELSBASE_API int video_frames_to_keycode(int video, char* text, int key_phase, int* key_phase_out, int phase,
                                            label_type label, transfer_type transfer, int per_key,
                                            unsigned char digits) noexcept;
+
+// Writes the film timecode of the film frame that a video frame shows.
 LABELSBASE_API int video_frames_to_filmtc(int video, char* text, int phase, transfer_type transfer) noexcept;

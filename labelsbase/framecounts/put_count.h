@@ -1,4 +1,4 @@
-// Results of the frame counts: written only if all of them fit.
+// Private: results of the frame counts: written only if all of them fit.
 #pragma once
 
 #include <cstdint>

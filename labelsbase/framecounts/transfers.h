@@ -14,14 +14,15 @@ namespace labelsbase {
 
 // A transfer repeats its pattern after a cycle: `film_cycle` film frames become `video_cycle` video frames.
 struct transfer_facts {
-  transfer_type transfer;
-  int film_cycle;
-  int video_cycle;
+  transfer_type transfer;  // the transfer that the row describes
+  int film_cycle;          // film frames of a cycle
+  int video_cycle;         // video frames of a cycle
 
   // Whether the transfer adds a video frame to every cycle.
   [[nodiscard]] constexpr bool has_pulldown() const noexcept { return film_cycle != video_cycle; }
 };
 
+// All transfers that frame counts know.
 // clang-format off
 inline constexpr transfer_facts all_transfer_facts[] = {
 //   transfer              film  video frames

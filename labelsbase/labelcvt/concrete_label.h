@@ -9,8 +9,9 @@ namespace labelsbase {
 template <label_t kind_, class Family>
 class concrete_label : public Family {
  public:
-  static constexpr label_t kind = kind_;
+  static constexpr label_t kind = kind_;  // the row of the class
 
+  // Returns what the row says.
   char const* type_str() const override { return facts_of(kind).name; }
   label_t type() const override { return kind; }
   UserLabelType UserType() const override { return facts_of(kind).family; }

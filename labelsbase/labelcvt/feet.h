@@ -48,10 +48,12 @@ class LABELSBASE_API foot_label : public variable_label {
 
   void build_template() override;
 
-  // Write and read a label. get_abs_string and get_abs_sample call these.
+  // Writes the label of a perforation into the point. get_abs_string calls this.
+  virtual char const* samples_to_feet(LabelPoint* point, int perfs);
+
+  // Returns the perforations of a label. get_abs_sample calls this.
   //
   //   blank* "-"? number any number     where each number and the character between them may be missing
-  virtual char const* samples_to_feet(LabelPoint* point, int perfs);
   virtual int feet_to_samples(char const* text);
 
  protected:
@@ -65,8 +67,8 @@ class LABELSBASE_API foot_label : public variable_label {
   // Sets both templates to a sign, the feet and `frames`.
   void set_shape(char const* frames) noexcept;
 
-  int feet_digits_;
-  int perfs_per_frame_;
+  int feet_digits_;      // the fewest digits of feet that are written
+  int perfs_per_frame_;  // perforations
 
   // The last conversion of film with 3 perforations a frame.
   labelsbase::scratch_register feet_;
@@ -88,6 +90,7 @@ class LABELSBASE_API foot_label : public variable_label {
   labelsbase::film_gauge gauge_;
 };
 
+// Feet of 35 mm film: 16 frames of 4 perforations to the foot.
 class LABELSBASE_API foot_35_label : public labelsbase::concrete_label<foot_35_label_t, foot_label> {
  public:
   foot_35_label();
@@ -95,6 +98,7 @@ class LABELSBASE_API foot_35_label : public labelsbase::concrete_label<foot_35_l
   void build_template() override;
 };
 
+// Feet of 16 mm film: 40 frames of 1 perforation to the foot.
 class LABELSBASE_API foot_16_label : public labelsbase::concrete_label<foot_16_label_t, foot_label> {
  public:
   foot_16_label();

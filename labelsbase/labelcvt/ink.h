@@ -71,12 +71,14 @@ class LABELSBASE_API ink_label : public prefix_label {
   }
 };
 
+// Ink numbers of 35 mm film: one a foot, 16 frames of 4 perforations.
 class LABELSBASE_API ink_35_label : public labelsbase::concrete_label<ink_35_label_t, ink_label> {
  public:
   ink_35_label();
   ~ink_35_label() override;
 };
 
+// Ink numbers of 16 mm film: one every 20 frames of 1 perforation.
 class LABELSBASE_API ink_16_label : public labelsbase::concrete_label<ink_16_label_t, ink_label> {
  public:
   ink_16_label();

@@ -1,4 +1,4 @@
-// The invalid converter that all points and the registry share.
+// Private: the invalid converter that all points and the registry share.
 #pragma once
 
 #include "labelsbase/labelcvt/label_cvt.h"

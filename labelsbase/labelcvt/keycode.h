@@ -102,6 +102,8 @@ class LABELSBASE_API keycode_label : public prefix_label {
 };
 
 // clang-format off
+// Key numbers of one gauge, with a count of `digits` digits, 4 to 6. The name says the gauge: 35, 16 or 65 mm, then the
+// perforations of a frame and of a key where they are not the usual ones.
 class LABELSBASE_API keycode_35       : public keycode_label { public: explicit keycode_35(unsigned digits); ~keycode_35() override; };
 class LABELSBASE_API keycode_16       : public keycode_label { public: explicit keycode_16(unsigned digits); ~keycode_16() override; };
 class LABELSBASE_API keycode_352      : public keycode_label { public: explicit keycode_352(unsigned digits); ~keycode_352() override; };
@@ -119,6 +121,7 @@ class LABELSBASE_API keycode_6515_120 : public keycode_label { public: explicit 
 // one: "KJ1234560123+07.3". They name the perforation itself, and keep strings hold the same text.
 class LABELSBASE_API keycode_353 : public keycode_label {
  public:
+  // `digits`: of the count, 4 to 6.
   explicit keycode_353(unsigned digits);
   ~keycode_353() override;
 
@@ -136,6 +139,7 @@ class LABELSBASE_API keycode_353 : public keycode_label {
 };
 
 // clang-format off
+// Key numbers of one label type. A name that ends in a number has that many digits in the count, any other has 4.
 class LABELSBASE_API keycode_35_label       : public labelsbase::concrete_label<keycode_35_label_t, keycode_35>             { public: keycode_35_label(); ~keycode_35_label() override; };
 class LABELSBASE_API keycode_35_label_4     : public labelsbase::concrete_label<keycode_35_label_4_t, keycode_35>           { public: keycode_35_label_4(); ~keycode_35_label_4() override; };
 class LABELSBASE_API keycode_35_label_5     : public labelsbase::concrete_label<keycode_35_label_5_t, keycode_35>           { public: keycode_35_label_5(); ~keycode_35_label_5() override; };

@@ -44,6 +44,8 @@ class LABELSBASE_API label_cvt : public labelsbase::host_allocated {
 
   // Returns the name of the class, for example "pal_label".
   virtual char const* type_str() const = 0;
+
+  // Returns the type of the labels; null_label_t or a base of the families if they have no type of their own.
   virtual label_t type() const = 0;
 
   // Returns the family of the type.
@@ -99,15 +101,19 @@ class LABELSBASE_API label_cvt : public labelsbase::host_allocated {
   // Returns the text of the label at a sample; the template's placeholder for a special sample.
   virtual char const* get_abs_string(LabelPoint* point, int sample) = 0;
 
-  // Return packed BCD timecode, and the perforation within the key number as text, at a sample.
+  // Returns packed BCD timecode at a sample, as get_smpte_string does.
   virtual unsigned get_abs_smpte_string(LabelPoint* point, int sample) = 0;
+
+  // Returns the perforation within the key number at a sample, as text; "" for types without key numbers.
   virtual char const* get_abs_perfs_string(LabelPoint* point, int sample);
 
   // Returns the sample of a label's text, or the invalid sample if the text cannot be read.
   virtual int get_abs_sample(char const* text) = 0;
 
-  // Write and read the text that keep strings hold.
+  // Returns the text of the label at a sample, as keep strings hold it.
   virtual char const* get_keep_string(LabelPoint* point, int sample) = 0;
+
+  // Returns the sample of a text that a keep string held, or the invalid sample.
   virtual int get_keep_sample(char const* text) = 0;
 
   // Returns samples as seconds, by get_vid_fps; 1e99 for types without seconds.
@@ -151,10 +157,11 @@ class LABELSBASE_API label_cvt : public labelsbase::host_allocated {
     if (!std::is_constant_evaluated()) howmany.fetch_add(1, std::memory_order_relaxed);
   }
 
+  // Sets both templates to one text.
   void set_templates(char const* text) noexcept;
 
-  LabelTemplate label_template_;
-  LabelTemplate prefixless_template_;
+  LabelTemplate label_template_;       // of the whole label
+  LabelTemplate prefixless_template_;  // of the label without its prefix
 
   // Hosts may be built without run-time type information: the class says what it is.
   timecode_label* timecode_ = nullptr;
@@ -163,6 +170,7 @@ class LABELSBASE_API label_cvt : public labelsbase::host_allocated {
 // A label of no particular kind. The families start from its answers.
 class LABELSBASE_API variable_label : public label_cvt {
  public:
+  // `modulus`: the count unit, see get_modulus. `samples_per_unit`: samples of a frame.
   constexpr variable_label(int modulus, int samples_per_unit) noexcept
       : modulus_{modulus}, samples_per_unit_{samples_per_unit} {}
 
@@ -196,9 +204,9 @@ class LABELSBASE_API variable_label : public label_cvt {
   char getFrameSeparator() const override;
 
  protected:
-  int modulus_;
-  char separator_ = 0;
-  int samples_per_unit_;
+  int modulus_;           // what get_modulus returns
+  char separator_ = 0;    // what getFrameSeparator returns
+  int samples_per_unit_;  // what samples_per_unit returns
 };
 
 // The invalid converter. Every sample is "???" and every text reads as the invalid sample.

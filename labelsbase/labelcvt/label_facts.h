@@ -18,19 +18,19 @@ namespace gauges {
 
 // clang-format off
 //                                           perfs a frame, a key
-inline constexpr film_gauge film_16                  {1,  20};
-inline constexpr film_gauge film_35                  {4,  64};
-inline constexpr film_gauge film_35_3perf            {3,  64};
-inline constexpr film_gauge film_35_2perf            {2,  64};
-inline constexpr film_gauge film_35_8perf            {8,  64};
-inline constexpr film_gauge film_65_5perf_80         {5,  80};
-inline constexpr film_gauge film_65_8perf_80         {8,  80};
-inline constexpr film_gauge film_65_10perf_80       {10,  80};
-inline constexpr film_gauge film_65_5perf_120        {5, 120};
-inline constexpr film_gauge film_65_8perf_120        {8, 120};
-inline constexpr film_gauge film_65_10perf_120      {10, 120};
-inline constexpr film_gauge film_65_15perf_120      {15, 120};
-inline constexpr film_gauge film_16_feet             {1,  40};  // a foot holds two keys
+inline constexpr film_gauge film_16                  {1,  20};  // 16 mm
+inline constexpr film_gauge film_35                  {4,  64};  // 35 mm
+inline constexpr film_gauge film_35_3perf            {3,  64};  // 35 mm, 3-perf
+inline constexpr film_gauge film_35_2perf            {2,  64};  // 35 mm, 2-perf
+inline constexpr film_gauge film_35_8perf            {8,  64};  // 35 mm, 8-perf
+inline constexpr film_gauge film_65_5perf_80         {5,  80};  // 65 mm, 5-perf, a key every 80
+inline constexpr film_gauge film_65_8perf_80         {8,  80};  // 65 mm, 8-perf, a key every 80
+inline constexpr film_gauge film_65_10perf_80       {10,  80};  // 65 mm, 10-perf, a key every 80
+inline constexpr film_gauge film_65_5perf_120        {5, 120};  // 65 mm, 5-perf, a key every 120
+inline constexpr film_gauge film_65_8perf_120        {8, 120};  // 65 mm, 8-perf, a key every 120
+inline constexpr film_gauge film_65_10perf_120      {10, 120};  // 65 mm, 10-perf, a key every 120
+inline constexpr film_gauge film_65_15perf_120      {15, 120};  // 65 mm, 15-perf, a key every 120
+inline constexpr film_gauge film_16_feet             {1,  40};  // 16 mm by feet: a foot holds two keys
 // clang-format on
 
 }  // namespace gauges
@@ -79,29 +79,30 @@ struct exchange_names {
 
 // The types that count the same film in feet, by ink numbers or by key numbers; null_label_t where there is none.
 struct film_siblings {
-  label_t feet = null_label_t;
-  label_t ink = null_label_t;
-  label_t key = null_label_t;
+  label_t feet = null_label_t;  // by feet and frames
+  label_t ink = null_label_t;   // by ink numbers
+  label_t key = null_label_t;   // by key numbers
 };
 
 // What the labels of a type count: timecode or film, or neither for the bases of the families.
 struct label_form {
-  UserLabelType family = User_none;
-  timecode_facts timecode{};
-  film_facts film{};
+  UserLabelType family = User_none;  // of the type
+  timecode_facts timecode{};         // 0 frames per second where the type is not timecode
+  film_facts film{};                 // 0 digits where the type is not film
 };
 
 // Everything about one label type.
 struct label_facts {
-  label_t type;
-  char const* name;  // of the converter class; "" for types without one
-  UserLabelType family;
-  timecode_facts timecode;
-  film_facts film;
-  exchange_names exchange;
-  film_siblings siblings;
+  label_t type;                  // the number of the row
+  char const* name;              // of the converter class; "" for types without one
+  UserLabelType family;          // that a user chooses it by
+  timecode_facts timecode;       // 0 frames per second where the type is not timecode
+  film_facts film;               // 0 digits where the type is not film
+  exchange_names exchange;       // in edit decision lists
+  film_siblings siblings;        // types of the same film in other families
   Kiv::FrameRate standard_rate;  // of the host's timecode standard; FrameRate_unknown where the type has none
 
+  // A row of the table: what is left out has no value.
   constexpr label_facts(label_t type_, char const* name_, label_form const& form,
                         exchange_names const& exchange_ = {}, film_siblings const& siblings_ = {},
                         Kiv::FrameRate standard_rate_ = Kiv::FrameRate_unknown) noexcept
@@ -114,7 +115,10 @@ struct label_facts {
         siblings{siblings_},
         standard_rate{standard_rate_} {}
 
+  // Whether the type has labels of timecode.
   [[nodiscard]] constexpr bool is_timecode() const noexcept { return timecode.frames_per_second > 0; }
+
+  // Whether the type has labels of film: key numbers, ink numbers, feet or film frames.
   [[nodiscard]] constexpr bool is_film() const noexcept { return film.count_digits > 0; }
 
   // Whether the type has labels, and so a converter of its own.
@@ -138,6 +142,7 @@ namespace forms {
 // A type without labels of its own.
 [[nodiscard]] consteval label_form base(UserLabelType family) { return {.family = family}; }
 
+// Timecode that runs at the frames per second that it counts.
 [[nodiscard]] consteval label_form timecode(int frames_per_second, char separator = '.') {
   return {.family = User_timecode, .timecode = {.frames_per_second = frames_per_second, .separator = separator}};
 }
@@ -174,15 +179,18 @@ namespace forms {
   return form;
 }
 
+// Ink numbers have 4 characters of prefix and 4 digits.
 [[nodiscard]] consteval label_form ink(film_gauge const& gauge) {
   return {.family = User_ink,
           .film = {.gauge = gauge, .prefix_length = 4, .count_digits = 4, .dummy_prefix = "XXXX"}};
 }
 
+// Feet have 4 digits or more.
 [[nodiscard]] consteval label_form feet(film_gauge const& gauge) {
   return {.family = User_feet, .film = {.gauge = gauge, .count_digits = 4}};
 }
 
+// Film frames have 6 digits or more.
 [[nodiscard]] consteval label_form film_frames() {
   return {.family = User_film_frames, .film = {.count_digits = 6}};
 }
@@ -197,8 +205,9 @@ namespace label_table {
 
 using namespace forms;
 using namespace gauges;
-inline constexpr auto none = null_label_t;
+inline constexpr auto none = null_label_t;  // no such sibling
 
+// One row a type, in the order of the types.
 inline constexpr label_facts rows[] = {
 //   type                       converter class           counts                                            exchange names: written, read        same film in feet, ink, keys                               standard
     {null_label_t,             "",                       base(User_none)},
@@ -277,7 +286,7 @@ template <label_t first_at_fault>
 struct every_label_type_has_its_row {
   static_assert(first_at_fault == numLabelCvts,
                 "this label type lacks its row in the table, or its row is out of order");
-  static constexpr bool holds = true;
+  static constexpr bool holds = true;  // for the assertion below
 };
 
 static_assert(every_label_type_has_its_row<first_without_row()>::holds);

@@ -29,7 +29,7 @@ class label_cvt;
 class LABELSBASE_API LabelPoint {
  public:
   static constexpr std::size_t prefix_length = 20;  // characters, without the terminator
-  static constexpr std::size_t text_length = 22;
+  static constexpr std::size_t text_length = 22;    // characters, without the terminator
 
   // Film prefix of key numbers and ink numbers; empty for other types.
   char prefix[prefix_length + 1] = {};
@@ -45,6 +45,8 @@ class LABELSBASE_API LabelPoint {
 
   // Whether `label_template` is a copy of the converter's first template or of its second, the one without prefix.
   bool template_choice = true;
+
+  // The shape of the text.
   LabelTemplate label_template;
 
   // Makes the invalid point: invalid converter, sample 0, empty prefix and template.
@@ -57,8 +59,10 @@ class LABELSBASE_API LabelPoint {
   // Makes the label of a converter, which must outlive the point.
   LabelPoint(label_cvt& cvt, int at_sample);
 
-  // Copy everything but the text: a new point's text is empty, an assigned point keeps its own.
+  // Copies everything but the text, which is empty.
   LabelPoint(LabelPoint const& other) noexcept;
+
+  // Copies everything but the text, which stays.
   LabelPoint& operator=(LabelPoint const& other) noexcept;
 
   // Move likewise, without a change of use counts. The other point keeps its value, but not its template.
@@ -70,6 +74,7 @@ class LABELSBASE_API LabelPoint {
   // Makes this the invalid point again, with an empty text.
   void init() noexcept;
 
+  // Returns the converter, never null.
   [[nodiscard]] label_cvt* cvt() const noexcept { return converter; }
 
   // Returns the label's text, for example "-00:00:01.00". Returns "???" for the invalid converter and the
@@ -86,9 +91,11 @@ class LABELSBASE_API LabelPoint {
   // are not compared.
   [[nodiscard]] bool operator==(LabelPoint const& other) const;
 
-  // Return the sum and the difference of two points of one type, moved into its range, without a prefix. Points of
-  // two types return the invalid point.
+  // Returns the sum of two points of one type, moved into its range, without a prefix. Points of two types return
+  // the invalid point.
   [[nodiscard]] LabelPoint operator+(LabelPoint const& other) const;
+
+  // Returns the difference likewise.
   [[nodiscard]] LabelPoint operator-(LabelPoint const& other) const;
 
   // Gives a key number a longer or shorter count of the same gauge. A longer count takes its leading digits from

@@ -63,6 +63,7 @@ enum label_t : std::int32_t {
   tc_240_label_t,
 };
 
+// The number of label types, null_label_t included: types are numbered from 0 to numLabelCvts - 1.
 inline constexpr int numLabelCvts = tc_240_label_t + 1;
 
 // The families that a user chooses between.
@@ -93,10 +94,13 @@ enum UserLabelType : std::int32_t {
 // Returns that type if it is one of key numbers, otherwise null_label_t.
 [[nodiscard]] LABELSBASE_API label_t edlstr_to_film_label_type(char const* text) noexcept;
 
-// Return the type that counts the same film in feet, by ink numbers or by key numbers, or null_label_t if there is
-// no such type.
+// Returns the type that counts the same film in feet, or null_label_t if there is no such type.
 [[nodiscard]] LABELSBASE_API label_t label_t_to_foot_label_t(label_t type) noexcept;
+
+// Returns the type that counts the same film by ink numbers, or null_label_t if there is no such type.
 [[nodiscard]] LABELSBASE_API label_t label_t_to_ink_label_t(label_t type) noexcept;
+
+// Returns the type that counts the same film by key numbers, or null_label_t if there is no such type.
 [[nodiscard]] LABELSBASE_API label_t label_t_to_key_label_t(label_t type) noexcept;
 
 // Returns the type in which durations are shown. 50 and 60 frame timecode become their duration types. 30 frame
@@ -125,6 +129,7 @@ enum UserLabelType : std::int32_t {
 
 namespace labelsbase {
 
+// Returns whether the value is from 0 to numLabelCvts - 1.
 [[nodiscard]] constexpr bool is_label_type(label_t type) noexcept { return type >= 0 && type < numLabelCvts; }
 
 // Returns the name of the type's converter class, for example "pal_label", or "" for a value without a class.

@@ -33,8 +33,10 @@ class LABELSBASE_API prefix_label : public variable_label {
   // Returns true.
   bool has_prefix() const override;
 
-  // Return the characters of the prefix and the digits of the count; -1 before set_count_len.
+  // Returns the characters of the prefix, or -1 before set_count_len.
   int get_prefix_length() const override;
+
+  // Returns the digits of the count, or -1 before set_count_len.
   int get_count_length() const override;
 
   // Sets the templates, for example to "????????9999+19" and "~~~~~~~~9999+19".
@@ -87,13 +89,13 @@ class LABELSBASE_API prefix_label : public variable_label {
   // Sets both templates to prefix, count, "+" and `frames`.
   void set_count_templates(char const* frames) noexcept;
 
-  unsigned prefix_length_ = static_cast<unsigned>(-1);
-  unsigned count_length_ = static_cast<unsigned>(-1);
-  int count_maximum_ = 9;
-  char const* dummy_prefix_ = "";
-  mutable char current_prefix_[longest_prefix + 1] = {};
-  unsigned total_length_;
-  labelsbase::film_gauge gauge_;
+  unsigned prefix_length_ = static_cast<unsigned>(-1);    // characters of the prefix
+  unsigned count_length_ = static_cast<unsigned>(-1);     // digits of the count
+  int count_maximum_ = 9;                                 // the largest count
+  char const* dummy_prefix_ = "";                         // what get_dummy_prefix returns
+  mutable char current_prefix_[longest_prefix + 1] = {};  // the prefix that the converter remembers
+  unsigned total_length_;                                 // characters of prefix and count together
+  labelsbase::film_gauge gauge_;                          // of the film, for the count
 
  private:
   friend class keycode_label;

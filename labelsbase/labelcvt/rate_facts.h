@@ -14,6 +14,7 @@
 
 namespace labelsbase {
 
+// Everything about one frame rate.
 struct rate_facts {
   Kiv::FrameRate rate;        // FrameRate_unknown for every code without a row
   double nominal_fps;         // frames per second without the 1000/1001 factor; 0 for unknown rates

@@ -13,6 +13,7 @@ class scratch_register {
  public:
   constexpr scratch_register() noexcept = default;
 
+  // Writes the number.
   scratch_register& operator=(int value) noexcept {
     value_.store(value, std::memory_order_relaxed);
     return *this;
@@ -24,6 +25,7 @@ class scratch_register {
   scratch_register& operator++() noexcept { return *this += 1; }
   scratch_register& operator--() noexcept { return *this -= 1; }
 
+  // Reads the number.
   operator int() const noexcept {  // NOLINT(google-explicit-constructor): a register reads as its number
     return value_.load(std::memory_order_relaxed);
   }

@@ -52,8 +52,10 @@ class LABELSBASE_API timecode_label : public variable_label {
   // Splits a sample into its four fields and returns the frames.
   int get_abs_hmsf(int sample, short& h, short& m, short& s, short& f);
 
-  // Write the text and the packed BCD digits of a sample. get_abs_string and get_abs_smpte_string call these.
+  // Returns the text of a sample. get_abs_string calls this.
   char const* sample_to_string(LabelPoint* point, int sample);
+
+  // Returns the packed BCD digits of a sample. get_abs_smpte_string calls this.
   unsigned sample_to_smpte_string(LabelPoint* point, int sample);
 
   char const* type_str() const override;
@@ -66,11 +68,15 @@ class LABELSBASE_API timecode_label : public variable_label {
   // Reads "hhmmssff", or "hhmmssfff" at 120 and 240 frames a second. Blanks may pad a field. Returns the invalid
   // sample on failure.
   int get_abs_sample_from_packed_string(char const* text) override;
+
+  // Returns the samples from the first text to the second, moved into 0 to one whole day.
   int get_sample_span_from_packed_strings(char const* from, char const* to) override;
 
   // Returns for example " 01:00:00.00" or "-00:00:01.00", without the sign column if the point's template has
   // none.
   char const* get_abs_string(LabelPoint* point, int sample) override;
+
+  // Returns packed BCD timecode, with bit 6 set for drop-frame; 0 for negative and special samples.
   unsigned get_abs_smpte_string(LabelPoint* point, int sample) override;
 
   // Reads such a text. Deliberate: any character separates the frames, and no field is held against its range.
@@ -102,7 +108,7 @@ class LABELSBASE_API timecode_label : public variable_label {
   // call them. The registry declares it of the converters that it makes.
   void settle_arithmetic() noexcept;
 
-  unsigned format_;
+  unsigned format_;  // a sum of timecode_format
 
   // The fields of the last conversion.
   labelsbase::scratch_register hours_;
@@ -110,14 +116,16 @@ class LABELSBASE_API timecode_label : public variable_label {
   labelsbase::scratch_register seconds_;
   labelsbase::scratch_register frames_;
 
-  int samples_per_day_ = 0;
+  int samples_per_day_ = 0;  // what samples_per_day returns
 
   // Reads the fields that `format` asks for: all four, or from minutes or from seconds on.
   [[nodiscard]] bool read_fields(char const* text, unsigned format,
                                  labelsbase::timecode_fields& fields) const noexcept;
 
-  // Write and read hours_ to frames_.
+  // Writes hours_ to frames_.
   void remember(labelsbase::timecode_fields const& fields) noexcept;
+
+  // Reads hours_ to frames_.
   [[nodiscard]] labelsbase::timecode_fields remembered() const noexcept;
 
   // Whether labels in full columns read by the count alone.
@@ -145,16 +153,18 @@ class LABELSBASE_API timecode_label : public variable_label {
 
 namespace labelsbase {
 
+// Timecode of one type, by its row in the table of label types.
 template <label_t rate_type>
 class timecode_rate : public concrete_label<rate_type, timecode_label> {
  protected:
+  // `format`: any sum of timecode_format.
   explicit timecode_rate(int format) : concrete_label<rate_type, timecode_label>{rate_type, format} {}
 };
 
 }  // namespace labelsbase
 
-// `format`: any sum of timecode_format; Format_full writes and reads whole labels.
 // clang-format off
+// Timecode of one label type. `format`: any sum of timecode_format; Format_full writes and reads whole labels.
 class LABELSBASE_API pal_label            : public labelsbase::timecode_rate<pal_label_t>            { public: pal_label(int format); ~pal_label() override; };
 class LABELSBASE_API ntsc_label           : public labelsbase::timecode_rate<ntsc_label_t>           { public: ntsc_label(int format); ~ntsc_label() override; };
 class LABELSBASE_API tc_24_label          : public labelsbase::timecode_rate<tc_24_label_t>          { public: tc_24_label(int format); ~tc_24_label() override; };
@@ -176,6 +186,7 @@ class LABELSBASE_API tc_240_label         : public labelsbase::timecode_rate<tc_
 // NTSC drop-frame timecode: leaves out frame labels 00 and 01 of every minute that is not a multiple of ten.
 class LABELSBASE_API ntsc_drop_label : public labelsbase::timecode_rate<ntsc_drop_label_t> {
  public:
+  // `format`: any sum of timecode_format. Drop-frame reads all fields, whatever the format.
   ntsc_drop_label(int format);
   ~ntsc_drop_label() override;
 

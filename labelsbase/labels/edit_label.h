@@ -23,7 +23,7 @@ class LABELSBASE_API EditLabel : public Label {
   // counts like a constructor.
   static std::atomic<int> howmany;
 
-  MediumRollIdent medium_roll;
+  MediumRollIdent medium_roll;  // the medium and generation of the material
 
   // Whether the pitch was corrected after construction.
   bool pitch_fixed = false;
@@ -60,6 +60,7 @@ class LABELSBASE_API EditLabel : public Label {
   // Returns whether the type has labels and both the medium and the generation are known.
   [[nodiscard]] bool is_valid() const;
 
+  // Returns the medium and generation of the material.
   [[nodiscard]] MediumRollIdent& get_MediumRoll() noexcept { return medium_roll; }
   [[nodiscard]] MediumRollIdent const& get_MediumRoll() const noexcept { return medium_roll; }
 
@@ -96,6 +97,8 @@ class LABELSBASE_API EditLabel : public Label {
 // Returns the one invalid edit label: an invalid label on no medium.
 [[nodiscard]] LABELSBASE_API EditLabel const& invalid_edit_label();
 
-// Return seconds of clock time as cel time, and back, at the current project's output gearing.
+// Returns seconds of clock time as seconds of cel time, at the current project's output gearing.
 [[nodiscard]] LABELSBASE_API double transform_KIVtime_to_CELtime(double clock_seconds);
+
+// Returns seconds of cel time as seconds of clock time, at the current project's output gearing.
 [[nodiscard]] LABELSBASE_API double transform_CELtime_to_KIVtime(double cel_seconds);

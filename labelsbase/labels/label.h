@@ -9,8 +9,7 @@
 //   offset      samples   from the start of the label        0 to length, unless the label is unbounded
 //   sample      samples   from the zero point of the type    any int; special samples: labelsbase/samples.h
 //   position    seconds   sample x pitch                     any double; 1e99 means "no position"
-//   pitch       seconds   of one sample                      natural: 1/25 for pal_label, 1/96 for
-//   keycode_35_label
+//   pitch       seconds   of one sample                      natural: 1/25 for pal_label, 1/96 for 35 mm keys
 //
 //   Label label = pal_label_t;             // 25 frame timecode from 00:00:00.00, bounded
 //   label.start.sample = 90'000;
@@ -60,8 +59,10 @@ class LABELSBASE_API Label {
   // be read is the invalid sample; a number that cannot be read is 0. A null text reads as an empty one.
   Label(char const* keep);
 
-  // A copy has revision 1; assignment keeps the revision. Assignment also takes the shared converter of the type.
+  // Copies everything but the revision, which is 1.
   Label(Label const& other);
+
+  // Copies everything but the revision, which stays. Takes the shared converter of the type.
   Label& operator=(Label const& other);
 
   // Move likewise, without a change of use counts. The other label keeps its value, but not its template.
@@ -80,9 +81,13 @@ class LABELSBASE_API Label {
   // Sets the prefix of the start, if the type has one.
   void set_prefix(char const* text);
 
-  // Return the samples of the start and the end. set_end sets the length.
+  // Returns the sample of the start.
   [[nodiscard]] int get_start() const noexcept { return start.sample; }
+
+  // Returns the sample of the end: start + length.
   [[nodiscard]] int get_end() const noexcept;
+
+  // Sets the length, so that the label ends at `sample`.
   void set_end(int sample) noexcept;
 
   // Returns 0 for an offset in range, otherwise past_end_sample or before_start_sample.
@@ -98,9 +103,10 @@ class LABELSBASE_API Label {
   // Returns the offset of a sample, or invalid_sample if it is out of range.
   [[nodiscard]] int get_sample(int sample) const noexcept;
 
-  // Returns the point at an offset. Out of range, its sample is past_end_sample or before_start_sample; the
-  // unbounded form has no range.
+  // Returns the point at an offset. Out of range, its sample is past_end_sample or before_start_sample.
   [[nodiscard]] LabelPoint get_label_point(int offset) const;
+
+  // Returns the point at any offset.
   [[nodiscard]] LabelPoint get_unbounded_label_point(int offset) const;
 
   // Returns the seconds at an offset by the video rate of the type, or 1e99 for types without one.
@@ -120,8 +126,10 @@ class LABELSBASE_API Label {
   // Writes packed BCD timecode (SMPTE ST 12-1). Returns false and writes nothing if the offset is out of range.
   [[nodiscard]] bool get_smpte(int offset, unsigned& packed) const;
 
-  // Read packed BCD timecode: `drop` receives the drop-frame flag. The second form returns the samples too.
+  // Reads the drop-frame flag of packed BCD timecode into `drop`.
   void get_samples_from_SMPTETc(unsigned packed, bool& drop) const;
+
+  // Returns the samples of packed BCD timecode. `drop` receives the drop-frame flag.
   [[nodiscard]] int samples_from_SMPTE(unsigned packed, bool& drop) const;
 
   // Returns whether the starts and the ends are equal. Deliberate: this start is compared as it is with the other,
@@ -131,14 +139,18 @@ class LABELSBASE_API Label {
   // Returns the seconds of a sample, or 1e99 for invalid_sample.
   [[nodiscard]] double sample_to_posn(int sample) const;
 
-  // Returns the seconds at an offset, or 1e99 if it is out of range. The second form has no range.
+  // Returns the seconds at an offset, or 1e99 if it is out of range.
   [[nodiscard]] double get_abs_posn(int offset) const;
+
+  // Returns the seconds at any offset.
   [[nodiscard]] double get_abs_posn_extrapolate(int offset) const;
 
-  // Return the sample at a position in seconds. posn_to_sample rounds down to the first sample of the frame
-  // (tolerance 1/250 sample), abs_posn_to_sample to the sample (1/500). 1e99, NaN and what does not fit an int
-  // return invalid_sample.
+  // Returns the first sample of the frame at a position in seconds, with a tolerance of 1/250 sample. 1e99, NaN
+  // and what does not fit an int return invalid_sample.
   [[nodiscard]] int posn_to_sample(double posn_seconds) const;
+
+  // Returns the sample at a position in seconds, with a tolerance of 1/500 sample. 1e99, NaN and what does not fit
+  // an int return invalid_sample.
   [[nodiscard]] int abs_posn_to_sample(double posn_seconds) const;
 
   // Writes the keep string into `buffer`, of at least keep_string_size characters, and returns it. A longer text

@@ -46,16 +46,24 @@ struct MPosn_Xlate_Params;
 // The same for the current project at its output gearing.
 [[nodiscard]] LABELSBASE_API double mPosn_Xlate(double posn, MediumRollMedium from, MediumRollMedium to);
 
-// Translates clock time to cel time: by given parameters, or for the current project at a gearing, its own by
-// default.
+// Translates clock time to cel time, in seconds, by given parameters.
 [[nodiscard]] LABELSBASE_API double mPosn_Xlate_ClockToCel(double t, MPosn_Xlate_Params& p);
+
+// The same for the current project at a gearing.
 [[nodiscard]] LABELSBASE_API double mPosn_Xlate_ClockToCel(double t, Kiv::OutputGearing const& g);
+
+// The same for the current project at its output gearing.
 [[nodiscard]] LABELSBASE_API double mPosn_Xlate_ClockToCel(double t);
 
-// Translates cel time to clock time likewise. Deliberate: this is not the exact inverse. Projects at 23.976 and
-// 47.952 count as film only from clock to cel, and a 1000/1001 factor of an output at 25 or 50 is not put back.
+// Translates cel time to clock time, in seconds, by given parameters. Deliberate: this is not the exact inverse.
+// Projects at 23.976 and 47.952 count as film only from clock to cel, and a 1000/1001 factor of an output at 25 or
+// 50 is not put back.
 [[nodiscard]] LABELSBASE_API double mPosn_Xlate_CelToClock(double c, MPosn_Xlate_Params& p);
+
+// The same for the current project at a gearing.
 [[nodiscard]] LABELSBASE_API double mPosn_Xlate_CelToClock(double c, Kiv::OutputGearing const& g);
+
+// The same for the current project at its output gearing.
 [[nodiscard]] LABELSBASE_API double mPosn_Xlate_CelToClock(double c);
 
 // Sets `velocity` to 1.0 and returns 0, whatever the arguments. Deliberate: hosts rely on the velocity staying 1.

@@ -18,6 +18,7 @@
 #include "labelsbase/export.h"
 #include "labelsbase/framecounts/count_types.h"
 
+// What a translation between media depends on.
 struct LABELSBASE_API MPosn_Xlate_Params {
   transfer_type transfer;         // between media at film rate and media at video rate
   int sequence;                   // phase of the pulldown cycle at position 0, in video frames; -1: not set
@@ -67,13 +68,13 @@ struct LABELSBASE_API MPosn_Xlate_Params {
 
 // The older, smaller record. The library fills it in but does not read it.
 struct LABELSBASE_API MPosn_Conversion_Params {
-  bool adjust_sequence;  // whether modify_sequence_to_playfile_std takes effect
-  transfer_type transfer;
+  bool adjust_sequence;          // whether modify_sequence_to_playfile_std takes effect
+  transfer_type transfer;        // between film and video
   bool convert;                  // film and video are converted
   std::int32_t conversion_kind;  // the host's
   int sequence;                  // phase of the pulldown cycle at position 0, in video frames
-  Kiv::FrameRate rate;
-  std::int32_t pulldown_kind;  // the host's
+  Kiv::FrameRate rate;           // of the project
+  std::int32_t pulldown_kind;    // the host's
 
   // Calls init.
   MPosn_Conversion_Params();

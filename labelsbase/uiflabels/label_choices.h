@@ -53,12 +53,13 @@ using ResId = std::uint32_t;
 
 // One choice.
 struct LABELSBASE_API VagueUIFLabelDef {
-  VagueUIFLabel label;
+  VagueUIFLabel label;      // the choice
   ResId text;               // its name on screen
   UserLabelType type;       // the family of labels that it shows; User_no_label for a reel or a note
   MediumRollIdent medroll;  // selects one of an item's labels
   char const* config;       // the keyword that the choice is saved under
 
+  // A choice of these values.
   constexpr VagueUIFLabelDef(VagueUIFLabel label_, ResId text_, UserLabelType type_, MediumRollIdent medroll_,
                              char const* config_) noexcept
       : label{label_}, text{text_}, type{type_}, medroll{medroll_}, config{config_} {}
