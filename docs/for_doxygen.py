@@ -60,7 +60,8 @@ def header(text):
             number += 1
         elif line.lstrip().startswith("//"):
             end = next(i for i in range(number, len(lines)) if not lines[i].lstrip().startswith("//"))
-            comment, indent = as_comment(lines[number:end]), indent_of(line)
+            if not re.match(" *// NOLINT", line):
+                comment, indent = as_comment(lines[number:end]), indent_of(line)
             out += comment if number == 0 else []
             number = end
         elif line.startswith("#define"):

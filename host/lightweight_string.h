@@ -56,10 +56,11 @@ class Ptr {
     return *this;
   }
 
-  // Moves change no count: construction empties the other handle, assignment swaps the two.
+  // Empties the other handle. No count changes.
   Ptr(Ptr&& other) noexcept
       : count_{std::exchange(other.count_, nullptr)}, object_{std::exchange(other.object_, nullptr)} {}
 
+  // Swaps the two handles. No count changes.
   Ptr& operator=(Ptr&& other) noexcept {
     std::swap(count_, other.count_);
     std::swap(object_, other.object_);

@@ -1,4 +1,4 @@
-// Film labels whose parts fill their columns, as nearly all do: written and read without looking for room, signs
+// Private: film labels whose parts fill their columns, as nearly all do: written and read without looking for room, signs
 // or blanks. Labels that do not are left to the general ways, which give the same answers for those that do.
 //
 //   KJ123456 0123 + 07      prefix, count, separator, frame

@@ -82,6 +82,7 @@ class LABELSBASE_API keycode_label : public prefix_label {
   labelsbase::scratch_register frame_;
   labelsbase::scratch_register perfs_left_;  // to the last perforation of the frame; 0 but for 3-perf
 
+  // Writes key_, frame_ and perfs_left_.
   void remember(labelsbase::film_place const& at) noexcept {
     key_ = at.count;
     frame_ = at.frame;

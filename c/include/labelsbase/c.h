@@ -96,7 +96,7 @@ typedef struct labels_track {
 typedef struct labels_name {
   const char* names;    // separated by blanks, the one to show first: "23.976 23.98"
   const char* meaning;  // "timecode of 24 frames, slowed by 1000/1001"
-  labels_track track;
+  labels_track track;   // what it names
 } labels_name;
 
 // The families of types.
@@ -113,8 +113,8 @@ enum {
 typedef struct labels_type {
   const char* name;           // "pal_label"; "" if it has none
   const char* exchange_name;  // in edit decision lists: "25f"; "" if it has none
-  int64_t first_sample;       // the first and last sample with a label; both 0 for a type without labels
-  int64_t last_sample;
+  int64_t first_sample;       // the first sample with a label; 0 for a type without labels
+  int64_t last_sample;        // the last sample with a label, itself included; 0 for a type without labels
   int32_t family;             // LABELS_FAMILY_...
   int32_t has_labels;         // 1, or 0 for the bases of the families
   int32_t natural_rate;       // a code: labels_rate_facts
@@ -125,20 +125,20 @@ typedef struct labels_type {
   int32_t prefix_length;      // characters
   int32_t count_digits;       // of the key or ink number; the fewest of feet and film frames
   int32_t separator;          // before the frames, as an ASCII code
-  int32_t feet_type;          // the types that count the same film in feet, ink and key numbers
-  int32_t ink_type;
-  int32_t key_type;
+  int32_t feet_type;          // the type that counts the same film in feet
+  int32_t ink_type;           // the type that counts the same film by ink numbers
+  int32_t key_type;           // the type that counts the same film by key numbers
 } labels_type;
 
 // Frames a second of a rate, in lowest terms: 30000 / 1001.
 typedef struct labels_rate {
-  int32_t numerator;
-  int32_t denominator;
+  int32_t numerator;    // 30000
+  int32_t denominator;  // 1001
 } labels_rate;
 
 // What a label says.
 typedef struct labels_label {
-  int32_t sample;
+  int32_t sample;   // frames for timecode and film frames, perforations for other film
   char prefix[24];  // of key numbers and ink numbers; otherwise empty
 } labels_label;
 
@@ -167,21 +167,21 @@ enum {
 
 // What is to be converted into what. Zeros are the usual choices.
 typedef struct labels_conversion {
-  labels_track from;
-  labels_track to;
+  labels_track from;  // the track that is converted
+  labels_track to;    // the track that it is converted to
   int32_t by;         // LABELS_BY_...; not used with a transfer
   int32_t round;      // LABELS_ROUND_...
-  int32_t sync_from;  // one instant as a sample of both tracks
-  int32_t sync_to;
-  int32_t transfer;  // LABELS_TRANSFER_...
-  int32_t phase;     // of the pulldown at that instant
+  int32_t sync_from;  // one instant as a sample of the track that is converted
+  int32_t sync_to;    // the same instant as a sample of the other track
+  int32_t transfer;   // LABELS_TRANSFER_...
+  int32_t phase;      // of the pulldown at that instant
 } labels_conversion;
 
 // Samples of the track that is converted to.
 typedef struct labels_answer {
   int32_t sample;  // rounded as asked
-  int32_t before;  // the frames around the instant; both are `sample` if a frame begins at it
-  int32_t after;
+  int32_t before;  // the frame before the instant; `sample` if a frame begins at it
+  int32_t after;   // the frame behind the instant; `sample` if a frame begins at it
 } labels_answer;
 
 // --- the library ---
