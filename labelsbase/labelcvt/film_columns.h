@@ -1,5 +1,6 @@
-// Private: film labels whose parts fill their columns, as nearly all do: written and read without looking for room, signs
-// or blanks. Labels that do not are left to the general ways, which give the same answers for those that do.
+// Private: film labels whose parts fill their columns, as nearly all do: written and read without looking for
+// room, signs or blanks. Labels that do not are left to the general ways, which give the same answers for those
+// that do.
 //
 //   KJ123456 0123 + 07      prefix, count, separator, frame
 #pragma once
