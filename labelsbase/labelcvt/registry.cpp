@@ -127,21 +127,23 @@ converters build_converters() noexcept {
   return made;
 }
 
-// Never freed: points hold on to these to the last.
-converters const& shared_converters() {
+constinit std::atomic<converters const*> shared_converters{nullptr};
+
+// Builds the shared converters, once. Returns null while this thread builds them. They are never freed: points
+// hold on to them to the last.
+[[gnu::noinline]] converters const* build_shared_converters() {
+  if (is_building) return nullptr;
   static converters const all = build_converters();
-  return all;
+  shared_converters.store(&all, std::memory_order_release);
+  return &all;
 }
 
 }  // namespace
 
 label_cvt* get_static_label_cvt(label_t type) {
-  static constinit std::atomic<converters const*> built{nullptr};
-  auto const* shared = built.load(std::memory_order_acquire);
-  if (!shared) {
-    if (is_building) return &invalid_converter.converter;
-    built.store(shared = &shared_converters(), std::memory_order_release);
-  }
+  auto const* shared = shared_converters.load(std::memory_order_acquire);
+  if (!shared) shared = build_shared_converters();
+  if (!shared) return &invalid_converter.converter;
   if (is_label_type(type)) return (*shared)[static_cast<std::size_t>(type)];
   broken("false", labelcvt_module);
   return &invalid_converter.converter;
