@@ -45,14 +45,11 @@ int read_sync_label(label_kind& kind, std::string const& sync, std::string_view 
   return parts.sample;
 }
 
-// A 2:3 pulldown makes AA BB BC CD DD of the film frames A B C D. Frame counts add the video frame BC whole. So a
-// cycle that begins at A has its added frame after its second film frame, which is phase 1.
 pulldown chosen_pulldown(conversion_arguments const& given) {
-  constexpr std::string_view frames_by_phase = "BADC";
   bool const has_letters = given.transfer == "2:3";
   auto phase = given.phase.value_or(has_letters ? "A" : "0");
   if (has_letters && phase.size() == 1 && !is_digit(phase.front())) {
-    auto const found = frames_by_phase.find(phase);
+    auto const found = labelconvert::frames_by_phase.find(phase);
     if (found == std::string_view::npos)
       refuse("--phase", phase, "expected A, B, C or D, or a number from 0 to 4 as 'labels cadence' has it");
     phase = std::to_string(found);

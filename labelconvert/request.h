@@ -50,6 +50,11 @@ struct request {
   int phase = 0;  // of the pulldown at the sync point: see labelsbase/framecounts/pulldown.h
 };
 
+// The film frame that a cycle of a 2:3 pulldown begins with, by phase. The pulldown makes AA BB BC CD DD of the
+// film frames A B C D. Frame counts add the video frame BC whole. So a cycle that begins at A has its added frame
+// after its second film frame, which is phase 1.
+inline constexpr std::string_view frames_by_phase = "BADC";
+
 // Returns what labels of two tracks usually have in common:
 //
 //   timecode  timecode             time

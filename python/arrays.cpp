@@ -3,6 +3,7 @@
 // none. The package hands over arrays of other shapes piece by piece, in the types that are read and written here.
 
 #include <pybind11/numpy.h>
+#include <pybind11/stl.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -15,7 +16,6 @@
 #include "core.h"
 #include "labelcheck/sums.h"
 #include "labelcheck/write.h"
-#include "labelconvert/conversion.h"
 
 namespace labels_python {
 namespace {
@@ -65,23 +65,38 @@ py::ssize_t first_refused(py::ssize_t count, Take take) {
 // Text items have a fixed number of characters, filled up with zeros: bytes ("S") or code points ("U").
 bool is_code_points(py::array const& array) { return array.dtype().kind() == 'U'; }
 
-// Reads items as texts, which a terminator follows. A text is valid until the next one is read.
-template <class Character>
-class text_items {
+std::string_view without_filling(char const* text, std::size_t size) noexcept {
+  while (size > 0 && text[size - 1] == '\0') --size;
+  return {text, size};
+}
+
+// Reads items as texts. A text is valid until the next one is read. Bytes are read in place.
+class byte_texts {
  public:
-  explicit text_items(row<std::byte const> const& items)
-      : items_{items}, characters_(static_cast<std::size_t>(items.item) / sizeof(Character), '\0') {}
+  explicit byte_texts(row<std::byte const> const& items) : items_{items} {}
+
+  [[nodiscard]] std::string_view at(py::ssize_t index) const noexcept {
+    return without_filling(reinterpret_cast<char const*>(items_.at(index)), static_cast<std::size_t>(items_.item));
+  }
+
+ private:
+  row<std::byte const> items_;
+};
+
+class code_point_texts {
+ public:
+  explicit code_point_texts(row<std::byte const> const& items)
+      : items_{items}, characters_(static_cast<std::size_t>(items.item) / sizeof(char32_t), '\0') {}
 
   [[nodiscard]] std::string_view at(py::ssize_t index) noexcept {
     auto const* from = items_.at(index);
-    std::size_t size = 0;
-    for (std::size_t i = 0; i < characters_.size(); ++i, from += sizeof(Character)) {
-      Character character;
-      std::memcpy(&character, from, sizeof character);
-      characters_[i] = as_byte(character);
-      if (character != 0) size = i + 1;
+    for (auto& character : characters_) {
+      char32_t code_point;
+      std::memcpy(&code_point, from, sizeof code_point);
+      character = as_byte(code_point);
+      from += sizeof code_point;
     }
-    return {characters_.data(), size};
+    return without_filling(characters_.data(), characters_.size());
   }
 
  private:
@@ -89,17 +104,24 @@ class text_items {
   std::string characters_;
 };
 
-template <class Character>
-bool set_text(row<std::byte> const& items, py::ssize_t index, std::string_view text) noexcept {
-  auto const width = static_cast<std::size_t>(items.item) / sizeof(Character);
+bool set_bytes(row<std::byte> const& items, py::ssize_t index, std::string_view text) noexcept {
+  auto const width = static_cast<std::size_t>(items.item);
+  if (text.empty() || text.size() > width) return false;
+  std::memcpy(items.at(index), text.data(), text.size());
+  std::memset(items.at(index) + text.size(), 0, width - text.size());
+  return true;
+}
+
+bool set_code_points(row<std::byte> const& items, py::ssize_t index, std::string_view text) noexcept {
+  auto const width = static_cast<std::size_t>(items.item) / sizeof(char32_t);
   if (text.empty() || text.size() > width) return false;
   auto* to = items.at(index);
   for (char const c : text) {
-    auto const character = static_cast<Character>(static_cast<unsigned char>(c));
-    std::memcpy(to, &character, sizeof character);
-    to += sizeof character;
+    auto const code_point = static_cast<char32_t>(static_cast<unsigned char>(c));
+    std::memcpy(to, &code_point, sizeof code_point);
+    to += sizeof code_point;
   }
-  std::memset(to, 0, (width - text.size()) * sizeof(Character));
+  std::memset(to, 0, (width - text.size()) * sizeof(char32_t));
   return true;
 }
 
@@ -110,20 +132,17 @@ py::ssize_t write_texts(label_t type, std::string const& prefix, labelcheck::lab
   auto const to = items_of(texts);
   if (is_code_points(texts))
     return first_refused(from.count, [&](py::ssize_t i) {
-      return set_text<char32_t>(to, i, labels.write(item_at<std::int32_t>(from, i)));
+      return set_code_points(to, i, labels.write(item_at<std::int32_t>(from, i)));
     });
-  return first_refused(from.count, [&](py::ssize_t i) {
-    return set_text<unsigned char>(to, i, labels.write(item_at<std::int32_t>(from, i)));
-  });
+  return first_refused(
+      from.count, [&](py::ssize_t i) { return set_bytes(to, i, labels.write(item_at<std::int32_t>(from, i))); });
 }
 
-// Fills `samples`, and `refused` where a label is refused. With `stop`, ends at the first of them.
-template <class Character>
-py::ssize_t read_texts_of(label_t type, illegal_labels illegal, row<std::byte const> const& from,
-                          row<std::byte> const& samples, row<std::byte> const& refused, bool stop) {
-  text_items<Character> texts{from};
+template <class Texts>
+py::ssize_t read_texts_of(label_t type, illegal_labels illegal, Texts texts, row<std::byte> const& samples,
+                          row<std::byte> const& refused) {
   std::string respelt;
-  return first_refused(from.count, [&](py::ssize_t i) {
+  return first_refused(samples.count, [&](py::ssize_t i) {
     auto const text = texts.at(i);
     auto const read = labelcheck::read(type, text);
     auto const* label = std::get_if<labelcheck::reading>(&read);
@@ -133,18 +152,21 @@ py::ssize_t read_texts_of(label_t type, illegal_labels illegal, row<std::byte co
       if (illegal_label) label = &*illegal_label;
     }
     set_item(samples, i, label ? label->sample : labelsbase::invalid_sample);
-    set_item(refused, i, label == nullptr);
-    return label || !stop;
+    if (refused.first) set_item(refused, i, label == nullptr);
+    return label || refused.first;
   });
 }
 
+// Marks the labels that are refused in `refused`. Without it, ends at the first of them.
 py::ssize_t read_texts(label_t type, illegal_labels illegal, py::array const& texts, py::array samples,
-                       py::array refused, bool stop) {
-  auto const read = is_code_points(texts) ? read_texts_of<char32_t> : read_texts_of<unsigned char>;
-  return read(type, illegal, items_of(texts), items_of(samples), items_of(refused), stop);
+                       std::optional<py::array> refused) {
+  auto const mask = refused ? items_of(*refused) : row<std::byte>{};
+  auto const from = items_of(texts);
+  return is_code_points(texts) ? read_texts_of(type, illegal, code_point_texts{from}, items_of(samples), mask)
+                               : read_texts_of(type, illegal, byte_texts{from}, items_of(samples), mask);
 }
 
-py::ssize_t convert_samples(labelconvert::conversion const& conversion, bool exact, py::array const& samples,
+py::ssize_t convert_samples(label_conversion const& conversion, bool exact, py::array const& samples,
                             py::array converted) {
   auto const from = items_of(samples);
   auto const to = items_of(converted);

@@ -8,7 +8,9 @@
 #include <string>
 
 #include "casters.h"
+#include "labelcheck/range.h"
 #include "labelcheck/read.h"
+#include "labelconvert/conversion.h"
 #include "labelsbase/labelcvt/label_types.h"
 
 namespace labels_python {
@@ -25,6 +27,20 @@ enum class illegal_labels {
 [[nodiscard]] std::optional<labelcheck::reading> read_illegal(labelcheck::refusal const& refused,
                                                               std::string_view text, illegal_labels illegal,
                                                               std::string& respelt);
+
+// Converts samples that have a label to samples that have one.
+struct label_conversion {
+  labelconvert::conversion samples;
+  labelcheck::sample_range from;
+  labelcheck::sample_range to;
+
+  // Returns nothing if either sample has no label.
+  [[nodiscard]] std::optional<labelconvert::answer> of(int sample) const noexcept {
+    if (!from.has_label(sample)) return std::nullopt;
+    auto const answer = samples.of(sample);
+    return answer && to.has_label(answer->sample) ? answer : std::nullopt;
+  }
+};
 
 void add_arrays(pybind11::module_& module);
 void add_catalogue(pybind11::module_& module);

@@ -68,6 +68,7 @@ struct kept {
 
   [[nodiscard]] Label label() const {
     Label label{point_of(type, sample, prefix)};
+    label.start.removePadding();
     label.length = length;
     label.pitch = pitch;
     label.bounded = bounded;
@@ -85,7 +86,14 @@ struct kept {
   }
 
   [[nodiscard]] static kept of(Label const& label) {
-    return {label.start.cvt()->type(), label.start.prefix, label.start.sample, label.length, label.pitch,
+    auto const type = label.start.cvt()->type();
+    std::string_view const prefix_and_count = label.start.prefix;
+    auto const length = static_cast<std::size_t>(labelsbase::facts_of(type).film.prefix_length);
+    return {type,
+            std::string{prefix_and_count.substr(0, length)},
+            label.start.sample,
+            label.length,
+            label.pitch,
             label.bounded != 0};
   }
 
@@ -147,6 +155,7 @@ void add_labels(py::module_& module) {
 
   module.def("read_text", read_text);
   module.def("write_text", write_text);
+  module.def("has_label", [](label_t type, int sample) { return labelcheck::range_of(type).has_label(sample); });
   module.def("explain_missing", labelcheck::explain_missing);
   module.def("add_samples", add_samples);
 

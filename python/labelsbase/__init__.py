@@ -10,14 +10,21 @@ array(['00:00:00;00', '00:00:59;29', '00:01:00;02', '00:10:00;00'],
 Samples are frames for timecode and film frames, and perforations for other film.
 """
 from ._arrays import add, diff, is_valid, to_samples, to_text
+from ._convert import convert
+from ._counting import (FilmFrame, Option, VideoFrame, cel_to_clock, clock_to_cel, film_to_video, options, set_option,
+                        video_to_film)
 from ._enums import Family, FrameRate, Generation, LabelType, Medium, Transfer
+from ._labels import EditLabel, Label
+from ._media import (LabelChoice, MediumFacts, Roll, find_choice, find_medium, label_choices, medium_facts)
 from ._points import INVALID_SAMPLE, LabelError, LabelPoint, parse
 from ._types import LabelFacts, NamedType, TypeName, facts, find_type, type_names
 
 __all__ = [
-    "INVALID_SAMPLE", "Family", "FrameRate", "Generation", "LabelError", "LabelFacts", "LabelPoint", "LabelType",
-    "Medium", "NamedType", "Transfer", "TypeName", "add", "diff", "facts", "find_type", "is_valid", "parse",
-    "to_samples", "to_text", "type_names",
+    "EditLabel", "Family", "FilmFrame", "FrameRate", "Generation", "INVALID_SAMPLE", "Label", "LabelChoice", "LabelError",
+    "LabelFacts", "LabelPoint", "LabelType", "Medium", "MediumFacts", "NamedType", "Option", "Roll", "Transfer", "TypeName",
+    "VideoFrame", "add", "cel_to_clock", "clock_to_cel", "convert", "diff", "facts", "film_to_video", "find_choice",
+    "find_medium", "find_type", "is_valid", "label_choices", "medium_facts", "options", "parse", "set_option",
+    "to_samples", "to_text", "type_names", "video_to_film",
 ]
 for _name in __all__:
     _thing = globals()[_name]

@@ -18,7 +18,7 @@ _INT32 = np.iinfo(np.int32)
 
 def _pieces(inputs: list[np.ndarray], outputs: list[np.ndarray]) -> Iterator[tuple[np.ndarray, ...]]:
     """Yield the arrays as one-dimensional views of equal length, in the order of their memory."""
-    flags = [["readonly"]] * len(inputs) + [["writeonly"]] * len(outputs)
+    flags: Any = [["readonly"]] * len(inputs) + [["writeonly"]] * len(outputs)
     with np.nditer(inputs + outputs, flags=["external_loop", "zerosize_ok"], op_flags=flags) as pieces:
         for piece in pieces:
             if piece[0].size:
@@ -69,6 +69,8 @@ def _output(out: np.ndarray | None, shape: tuple, dtype: Any) -> np.ndarray:
         raise TypeError(f"out needs to be an array, not {out!r}")
     if out.shape != shape:
         raise ValueError(f"out has the shape {out.shape}; expected {shape}")
+    if dtype is not None and out.dtype != dtype:
+        raise TypeError(f"out has the type {out.dtype}; expected {np.dtype(dtype)}")
     return out
 
 
@@ -126,12 +128,12 @@ def _width(type: int, samples: np.ndarray, prefix: str) -> int:
 
 
 def to_samples(type: TypeName, texts: Any, *, illegal: Illegal = "refuse",
-               errors: Literal["raise", "mask"] = "raise") -> Any:
+               errors: Literal["raise", "mask"] = "raise", out: np.ndarray | None = None) -> Any:
     """Read labels as samples.
 
     `texts` is an array or list of text or bytes, filled up with NULs as NumPy does. `illegal` is that of parse. With
     errors="mask", returns the samples and a mask that is true where a label was refused; the sample there is
-    INVALID_SAMPLE.
+    INVALID_SAMPLE. `out`, an array of int32, receives the samples if it is given.
 
     >>> to_samples("29.97df", ["00:00:00;00", "00:01:00;02"])
     array([   0, 1800], dtype=int32)
@@ -144,16 +146,15 @@ def to_samples(type: TypeName, texts: Any, *, illegal: Illegal = "refuse",
     mode = choice(illegal, _ILLEGAL, "illegal")
     stop = choice(errors, {"raise": True, "mask": False}, "errors")
     labels = _texts(texts)
-    samples = np.empty(labels.shape, np.int32)
-    mask = np.zeros(labels.shape, np.bool_)
-    for piece, numbers, refused in _pieces([labels], [samples, mask]):
-        first = _core.read_texts(found, mode, piece, numbers, refused, stop)
-        if first >= 0 and stop:
+    samples = _output(out, labels.shape, np.int32)
+    masks = [] if stop else [np.empty(labels.shape, np.bool_)]
+    for piece, numbers, *refused in _pieces([labels], [samples, *masks]):
+        if (first := _core.read_texts(found, mode, piece, numbers, *(refused or [None]))) >= 0:
             text = piece[first]
             spelling = text if isinstance(text, str) else text.decode("latin-1")
             field, position, nearest, reason = _core.read_text(found, spelling, mode)
             raise LabelError(spelling, field, reason, position, nearest, tuple(_first(labels == text)))
-    return samples if stop else (samples, mask)
+    return samples if stop else (samples, *masks)
 
 
 def is_valid(type: TypeName, texts: Any) -> np.ndarray:

@@ -77,6 +77,13 @@ def test_out_is_filled_in_place():
             labels.to_text("25", [0, 1, 2], out=out)
 
 
+    samples = np.zeros((2, 3), np.int32)
+    labels.to_samples("25", ["00:00:00.07"] * 3, out=samples[1])
+    assert samples.tolist() == [[0, 0, 0], [7, 7, 7]]
+    with pytest.raises(TypeError):
+        labels.to_samples("25", ["00:00:00.07"], out=np.zeros(1))
+
+
 DAY = 25 * 86400
 REFUSED = [
     (lambda: labels.to_text("25", [0.5]), TypeError, "samples need to be whole numbers, not float64"),
