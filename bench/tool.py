@@ -23,7 +23,7 @@ FAMILIES = {  # frames that have a label, options of the tool
 
 
 def processor_time(command, source):
-    """Runs the command in the pipe. Returns its seconds of processor time and its most memory, in KiB."""
+    """Runs the command in the pipe. Returns its seconds of processor time."""
     with open(source, "rb") as given, open(os.devnull, "wb") as nowhere:
         feed = subprocess.Popen(["cat"], stdin=given, stdout=subprocess.PIPE)
         work = subprocess.Popen(command, stdin=feed.stdout, stdout=subprocess.PIPE)
@@ -36,13 +36,13 @@ def processor_time(command, source):
         drain.wait()
     if status:
         sys.exit(f"{' '.join(command)}: status {status}")
-    return usage.ru_utime + usage.ru_stime, usage.ru_maxrss
+    return usage.ru_utime + usage.ru_stime
 
 
 def measure(lines, tool, peer, folder):
     print(f"{lines} lines; ns of processor time a line, and the ratio to cat\n")
-    print("| | cat | C program | labels | labels / cat | C program / labels | MB of memory |")
-    print("|---|---|---|---|---|---|---|")
+    print("| | cat | C program | labels | labels / cat | C program / labels |")
+    print("|---|---|---|---|---|---|")
     for name, (frames, options) in FAMILIES.items():
         numbers = os.path.join(folder, "numbers")
         labels = os.path.join(folder, "labels")
@@ -53,9 +53,9 @@ def measure(lines, tool, peer, folder):
         for verb, source in (("show", numbers), ("read", labels)):
             commands = {"cat": ["cat"], "C": [peer, verb, name], "labels": [tool, verb, name, *options]}
             least = {key: min(processor_time(command, source) for _ in range(3)) for key, command in commands.items()}
-            ns = {key: seconds / lines * 1e9 for key, (seconds, _) in least.items()}
+            ns = {key: seconds / lines * 1e9 for key, seconds in least.items()}
             print(f"| {verb} {name} | {ns['cat']:.0f} | {ns['C']:.0f} | {ns['labels']:.0f} | "
-                  f"{ns['labels'] / ns['cat']:.1f} | {ns['C'] / ns['labels']:.1f} | {least['labels'][1] / 1024:.0f} |",
+                  f"{ns['labels'] / ns['cat']:.1f} | {ns['C'] / ns['labels']:.1f} |",
                   flush=True)
 
 
