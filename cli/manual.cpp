@@ -58,7 +58,7 @@ void write_arguments(command_reference const& command, bool options, char const*
     if (is_first) out << ".SH " << heading << '\n';
     is_first = false;
     out << ".TP\n" << as_typed(each) << '\n' << roff(each.meaning) << ".";
-    if (!each.usual_value.empty()) out << " Usually " << roff(each.usual_value) << '.';
+    if (!each.usual_value.empty()) out << " Default: " << roff(each.usual_value) << '.';
     out << '\n';
   }
 }

@@ -56,7 +56,7 @@ TEST_F(Tool, CompletesAndDocumentsItsOwnDeclarations) {
       {"labels manual media | grep -A1 format | head -2",
        "\\fB\\-\\-format\\fR \\fItext|csv|tsv|json|jsonl\\fR\nHow to write results: json is an array, jsonl an "
        "object a "
-       "line; 'labels schema' describes the fields. Usually text.\n"},
+       "line; 'labels schema' describes the fields. Default: text.\n"},
       {"labels manual | sed -n 's/^.fBlabels.-\\([a-z]*\\).*/\\1/p' >a; labels help | sed -n 's/^  "
        "\\([a-z][a-z]*\\)  .*/\\1/p' "
        "| diff a -",
