@@ -8,7 +8,8 @@ describes the declarations below it, up to the next blank line: it is repeated f
 of classes, and headers whose first comment begins with "Private:".
 
 In a document, gives every heading an anchor that is unique in the site, `host-linking` for "Linking" in host.md, and
-turns links to headings, `[linking](#linking)` and `[linking](host.md#linking)`, into links to those.
+turns links to headings, `[linking](#linking)` and `[linking](host.md#linking)`, into links to those. Pictures fill the
+width of the page.
 """
 
 import pathlib
@@ -128,6 +129,8 @@ def main():
                 text = header(source.read_text())
             elif source.suffix == ".md":
                 text = markdown(source.read_text(), source.name)
+            elif source.suffix == ".svg":  # without a size of its own, a picture takes the width of the page
+                text = re.sub(r' width="[0-9]+" height="[0-9]+" viewBox', " viewBox", source.read_text(), count=1)
             else:
                 continue
             if text is not None:
