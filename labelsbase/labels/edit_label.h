@@ -44,7 +44,7 @@ class LABELSBASE_API EditLabel : public Label {
   // Copies the label part and the medium and roll.
   EditLabel& operator=(EditLabel const& other);
 
-  // Move likewise, without a change of use counts. The other label keeps its value, but not its template.
+  // Moves as copying does, without a change of use counts. The other label keeps its value, but not its template.
   EditLabel(EditLabel&& other) noexcept;
   // NOLINTNEXTLINE(performance-noexcept-move-constructor): hosts' converters may throw
   EditLabel& operator=(EditLabel&& other);

@@ -65,7 +65,7 @@ class LABELSBASE_API Label {
   // Copies everything but the revision, which stays. Takes the shared converter of the type.
   Label& operator=(Label const& other);
 
-  // Move likewise, without a change of use counts. The other label keeps its value, but not its template.
+  // Moves as copying does, without a change of use counts. The other label keeps its value, but not its template.
   Label(Label&& other) noexcept;
   // NOLINTNEXTLINE(performance-noexcept-move-constructor): hosts' converters may throw
   Label& operator=(Label&& other);
