@@ -16,6 +16,7 @@ In a header, the comments before the first include have examples. A line `EXPRES
 remark may follow after ": " or ", ". A line that ends in ";" is compiled as it is.
 """
 
+import concurrent.futures
 import os
 import pathlib
 import re
@@ -118,7 +119,7 @@ def statements_of_header(header):
         if code.endswith(";"):
             yield number, code
         elif remark:
-            value = re.match(r'"[^"]*"|\{[^}]*\}|[^:,]+', remark).group()
+            value = re.match(r'"[^"]*"|\{[^}]*\}|(?:::|[^:,])+', remark).group()
             yield number, code, f"std::remove_cvref_t<decltype({code})>{value}" if value.startswith("{") else value
 
 
@@ -178,13 +179,16 @@ def main():
     if len(sys.argv) < 3:
         sys.exit(__doc__)
     build_dir = pathlib.Path(sys.argv[1]).resolve()
-    good = True
-    for path in map(pathlib.Path, sys.argv[2:]):
+
+    def check_one(path):
         try:
-            good &= check(path, build_dir)
+            return check(path, build_dir)
         except subprocess.CalledProcessError as error:
             print(f"{path}: failed: {error.cmd[0]}", file=sys.stderr)
-            good = False
+            return False
+
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as workers:
+        good = all(list(workers.map(check_one, map(pathlib.Path, sys.argv[2:]))))
     sys.exit(0 if good else 1)
 
 

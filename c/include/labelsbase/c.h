@@ -17,8 +17,7 @@
 // - Samples are frames for timecode and film frames, perforations for other film. Any number is accepted anywhere.
 // - A text goes with its length in bytes, or LABELS_TERMINATED. A text that comes back is terminated.
 // - A struct or buffer goes with its size in bytes. Later versions add members at the end of structs: a program
-// that
-//   passes a smaller size receives, or is read for, only the members that it knows.
+//   that passes a smaller size receives, or is read for, only the members that it knows.
 // - A fault may be NULL. Otherwise it receives what is wrong, or zeros with LABELS_OK.
 // - Whatever is wrong, nothing but the fault is written, unless the function says so.
 // - No C++ exception comes out, and any number of threads may call.
