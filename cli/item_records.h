@@ -27,7 +27,7 @@ inline constexpr field problem_field{"problem", value_type::text, "Why it was re
 template <typename Take>
 [[nodiscard]] exit_status for_each_item(item_arguments const& given, format how, std::span<field const> fields,
                                         console& io, Take const& take) {
-  constexpr std::size_t most_fields = 12;
+  constexpr std::size_t most_fields = 16;
   std::array<value, most_fields> values;
   std::span const row{values.data(), fields.size()};
   std::span const found = row.subspan(1, row.size() - 2);

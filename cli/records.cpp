@@ -173,6 +173,7 @@ void record_writer::write_line(std::span<value const> row) {
     bool const is_shown = fields_[i].heading && !std::holds_alternative<std::monostate>(row[i]);
     if (!is_shown) continue;
     out_.write(std::exchange(separator, "\t"));
+    out_.write(fields_[i].before);
     out_.write(value_text{row[i]}.get());
   }
   out_.write("\n");

@@ -52,6 +52,7 @@ struct field {
   char const* meaning;            // for the schema: what the value is, in which unit
   char const* heading = nullptr;  // in text; without one, text leaves the field out
   bool is_optional = false;       // whether the value may be missing
+  char const* before = "";        // in lines: written before the value, "phase "
 };
 
 // A value of a row: a text, whole number, number or truth, or nothing. Texts need to live until the row is

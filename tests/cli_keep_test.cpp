@@ -65,6 +65,7 @@ TEST_F(Tool, WritesNoKeepStringFromInvalidArguments) {
           {"labels keep --write 25f --pitch 0", "", "--pitch \"0\"", 2},
           {"labels keep --write 25f --roll 999", "", "--roll \"999\"", 2},
           {"labels keep --write no", "", "--write \"no\"", 2},
+          {"labels keep --write 25 --format csv", "", "leave out --format\n", 2},
           {"labels keep --start 01:00:00:00", "", "--start requires --write", 2}});
 }
 

@@ -31,6 +31,11 @@ samples = {
     "now": ["25"],
     "roll": ["--for", "29,1", "28,1", "no"],
     "clock": ["3600", "0.1", "1e-9", "no"],
+    "keep": ["LABEL_REV:1 pal_label 01:00:00.00 250 0.04 1 MediumRollId 20,2",
+             "LABEL_REV:2 keycode_353_label KJ1234560001+00.1 16 0.05 0", "LABEL_REV:3 x", "no"],
+    "count": ["29.97df", "--transfer", "2:3", "--edit", "film", "--phases", "00:00:00;03", "00:01:00;00"],
+    "cadence": ["--timecode", "01:00:00:00", "--key", "1234+00"],
+    "pitch": ["29.97df", "src_2997p"],
     "check": ["--rate", "25", "--durations"],
 }
 

@@ -10,6 +10,7 @@
 
 #include "cli/arguments.h"
 #include "cli/commands.h"
+#include "cli/records.h"
 
 namespace cli {
 namespace {
@@ -22,6 +23,16 @@ struct arguments {
   std::string film_type = "F35";
   std::optional<std::string> key;
   bool drop = false;
+  std::string format;
+};
+
+constexpr field fields[] = {
+    {"video_frame", value_type::integer, "Video frame, from 1"},
+    {"film_frame", value_type::integer, "Film frame that it shows, from 1; none for an added frame", nullptr,
+     may_be_missing},
+    {"letter", value_type::text, "Place of the film frame in its cycle, from A", nullptr, may_be_missing},
+    {"timecode", value_type::text, "Timecode of the video frame"},
+    {"key_number", value_type::text, "Key number of the film frame", nullptr, may_be_missing},
 };
 
 int first_video_frame(pulldown const& across, int film) {
@@ -99,18 +110,35 @@ void write_file(std::string const& name, std::string const& text) {
   if (file.fail()) refuse("--svg", name, std::generic_category().message(errno ? errno : EIO));
 }
 
+void write_rows(cadence const& laid_out, cadence_labels const& labels, format how, output& results) {
+  record_writer rows{how, fields, results};
+  for (auto const& [video, film] : laid_out.frames) {
+    auto const timecode = labels.of_video(video);
+    if (film == 0) {
+      rows.write({video, missing, missing, timecode, missing});
+      continue;
+    }
+    auto const letter = laid_out.letter(film);
+    auto const key_number = labels.of_film(film);
+    rows.write({video, film, std::string_view{&letter, 1}, timecode, key_number});
+  }
+}
+
 exit_status run(arguments const& given, console& io) {
   auto const across = find_pulldown(given.across);
   if (!across.has_cadence()) refuse("--transfer", given.across.transfer, "has no cadence; expected 2:3 or 24:25");
   auto const laid_out = lay_out(across, number_in("--frames", given.film_frames, 1, 100'000));
-  if (!given.picture) {
-    write_table(laid_out, io.results);
-    return all_well;
-  }
   if (given.drop && across.video_cycle == 25)
     refuse("--transfer", given.across.transfer,
            "timecode of 25 frames a second has no drop-frame; leave out --drop");
-  write_file(*given.picture, draw(laid_out, find_labels(given, across)));
+  auto const labels = find_labels(given, across);
+  auto const how = find_format(given.format);
+
+  if (given.picture) write_file(*given.picture, draw(laid_out, labels));
+  if (how != format::text)
+    write_rows(laid_out, labels, how, io.results);
+  else if (!given.picture)
+    write_table(laid_out, io.results);
   return all_well;
 }
 
@@ -135,14 +163,18 @@ command_run commands::declare_cadence(CLI::App& command) {
   add_pulldown(command, given->across, "2:3");
   add_option(command, "--frames", "N [24]", given->film_frames, "Film frames to lay out, 1 to 100000");
   add_option(command, "--svg", "FILE", given->picture, "Draw a picture with a label at every frame into FILE");
+  add_format(command, given->format, fields);
   add_option(command, "--timecode", "LABEL [00:00:00:00]", given->timecode,
-             "In the picture: timecode of video frame 1");
-  add_flag(command, "--drop", given->drop, "In the picture: drop-frame timecode");
-  add_option(command, "--film", "TYPE [F35]", given->film_type, "In the picture: type of the key numbers");
-  add_option(command, "--key", "LABEL [0000+00]", given->key, "In the picture: key number of film frame 1");
+             "Timecode of video frame 1, for --svg and --format");
+  add_flag(command, "--drop", given->drop, "Drop-frame timecode");
+  add_option(command, "--film", "TYPE [F35]", given->film_type, "Type of the key numbers");
+  add_option(command, "--key", "LABEL [0000+00]", given->key, "Key number of film frame 1");
   add_examples(command, {{"cadence --transfer 2:3 --phase 1 --frames 12",
                           "film   1  2     3  4  5  6     7  8  9 10    11 12\n       A  B  +  C  D  A  B  +  C  "
                           "D  A  B  +  C  D\nvideo  1  2  3  4  5  6  7  8  9 10 11 12 13 14 15"},
+                         {"cadence --frames 2 --format csv --timecode 01:00:00:00 --key 1234+00",
+                          "video_frame,film_frame,letter,timecode,key_number\n1,1,A,01:00:00.00,1234+00\n"
+                          "2,,,01:00:00.01,\n3,2,B,01:00:00.02,1234+01"},
                          "cadence --transfer 24:25 --svg cadence.svg --key 1234+00"});
   return [given](console& io) { return run(*given, io); };
 }

@@ -1,12 +1,15 @@
 // count: labels to frame counts and back.
 
+#include <cstddef>
 #include <memory>
-#include <vector>
+#include <optional>
+#include <span>
+#include <string>
 
 #include "cli/arguments.h"
 #include "cli/commands.h"
 #include "cli/counting.h"
-#include "cli/input.h"
+#include "cli/item_records.h"
 #include "cli/text.h"
 
 namespace cli {
@@ -19,58 +22,72 @@ struct arguments {
   std::string edit = "video";
   std::optional<std::string> frames_per_key;
   std::string key_phase = "1";
+  std::string format;
   bool back = false;
   bool phases = false;
 };
 
-// What the arguments ask for.
+constexpr field fields[] = {
+    input_field,
+    {"frame", value_type::integer, "Without --back: frame of the label, from 1", "frame", may_be_missing},
+    {"label", value_type::text, "With --back: label of the frame", "label", may_be_missing},
+    {"pulldown_phase", value_type::integer, "With --phases: phase of the pulldown at the frame", "phase",
+     may_be_missing, "phase "},
+    {"key_phase", value_type::integer, "With --phases: phase of key 0 or, with --back, of the key", "key phase",
+     may_be_missing, "key phase "},
+    problem_field,
+};
+
+// The values between input and problem, in their order.
+enum found_value : std::size_t { found_frame, found_label, found_pulldown_phase, found_key_phase };
+
+// What the arguments ask for. Fills the values found for a text, or returns what is wrong with it.
 struct counting {
   counted_label label;
   pulldown across;
   edit_type edit;
   int key_phase;
   bool phases;
+  std::string shown{};  // the label found; valid until the next call
 
-  [[nodiscard]] exit_status count(item_arguments const& labels, console& io) const;
-  [[nodiscard]] exit_status count_back(item_arguments const& frames, console& io) const;
-  [[nodiscard]] std::string key_phase_text(int found) const {
-    return phases && label.has_key_phase() ? "\tkey phase " + std::to_string(found) : "";
+  [[nodiscard]] problem count(std::string_view text, std::span<value> found) const;
+  [[nodiscard]] problem count_back(std::string_view text, std::span<value> found);
+  void set_key_phase(std::span<value> found, int phase) const {
+    if (phases && label.has_key_phase()) found[found_key_phase] = phase;
   }
 };
 
-exit_status counting::count(item_arguments const& labels, console& io) const {
-  return for_each_item(labels, io, [&](std::string_view text) -> problem {
-    counted_label::digits digits;
-    if (auto wrong = label.read(text, key_phase, digits)) return wrong;
+problem counting::count(std::string_view text, std::span<value> found) const {
+  counted_label::digits digits;
+  if (auto wrong = label.read(text, key_phase, digits)) return wrong;
 
-    int frames = 0;
-    int found_phase = -1;
-    int found_key_phase = key_phase;
-    if (!label_to_frames(digits, key_phase, &found_key_phase, across.phase, &found_phase, &frames, label.label(),
-                         label.drop(), across.transfer, edit, label.frames_per_key()))
-      return "cannot be counted across this transfer";
+  int frames = 0;
+  int phase = -1;
+  int phase_of_key = key_phase;
+  if (!label_to_frames(digits, key_phase, &phase_of_key, across.phase, &phase, &frames, label.label(),
+                       label.drop(), across.transfer, edit, label.frames_per_key()))
+    return "cannot be counted across this transfer";
 
-    auto line = std::to_string(frames);
-    if (phases && found_phase >= 0) line += "\tphase " + std::to_string(found_phase);
-    io.results.line(line + key_phase_text(found_key_phase));
-    return std::nullopt;
-  });
+  found[found_frame] = frames;
+  if (phases && phase >= 0) found[found_pulldown_phase] = phase;
+  set_key_phase(found, phase_of_key);
+  return std::nullopt;
 }
 
-exit_status counting::count_back(item_arguments const& frames, console& io) const {
-  return for_each_item(frames, io, [&](std::string_view text) -> problem {
-    auto const frame = whole_number(text);
-    if (!frame) return "expected a frame, a whole number; the first frame is 1";
+problem counting::count_back(std::string_view text, std::span<value> found) {
+  auto const frame = whole_number(text);
+  if (!frame) return "expected a frame, a whole number; the first frame is 1";
 
-    counted_label::digits digits;
-    int found_key_phase = key_phase;
-    if (!frames_to_label(digits, key_phase, &found_key_phase, across.phase, -1, *frame, label.label(),
-                         label.drop(), across.transfer, edit, label.frames_per_key(), label.key_digits()))
-      return "is too far from frame 1 to have a label";
+  counted_label::digits digits;
+  int phase_of_key = key_phase;
+  if (!frames_to_label(digits, key_phase, &phase_of_key, across.phase, -1, *frame, label.label(), label.drop(),
+                       across.transfer, edit, label.frames_per_key(), label.key_digits()))
+    return "is too far from frame 1 to have a label";
 
-    io.results.line(label.shown(digits) + key_phase_text(found_key_phase));
-    return std::nullopt;
-  });
+  shown = label.shown(digits);
+  found[found_label] = std::string_view{shown};
+  set_key_phase(found, phase_of_key);
+  return std::nullopt;
 }
 
 edit_type find_edit(std::string const& text) {
@@ -90,7 +107,10 @@ exit_status count(arguments const& given, console& io) {
               "; leave out --frames-per-key");
     asked.label.set_frames_per_key(number_in("--frames-per-key", *given.frames_per_key, 1, 100));
   }
-  return given.back ? asked.count_back(given.items, io) : asked.count(given.items, io);
+  return for_each_item(given.items, find_format(given.format), fields, io,
+                       [&](std::string_view text, std::span<value> found) {
+                         return given.back ? asked.count_back(text, found) : asked.count(text, found);
+                       });
 }
 
 }  // namespace
@@ -110,6 +130,7 @@ command_run commands::declare_count(CLI::App& command) {
              " that follow. With --back, the phase of key 0");
   add_flag(command, "--phases", given->phases,
            "Show phases too: that of the pulldown at the frame, and that of key 0 or, with --back, of the key");
+  add_format(command, given->format, fields);
   add_examples(command, {{"count 29.97df --transfer 2:3 --edit film '01:00:00;00'", "86314"},
                          {"count 35mm 1234+07", "19752"},
                          {"count 25 --back 90001", "01:00:00.00"}});

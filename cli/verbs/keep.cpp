@@ -1,8 +1,7 @@
 // keep: explains and writes keep strings, the text form in which hosts store labels.
 
 #include <CLI/CLI.hpp>
-#include <array>
-#include <cmath>
+#include <algorithm>
 #include <memory>
 #include <optional>
 #include <string>
@@ -10,12 +9,11 @@
 
 #include "cli/arguments.h"
 #include "cli/commands.h"
-#include "cli/input.h"
+#include "cli/item_records.h"
 #include "cli/label_io.h"
 #include "cli/names.h"
 #include "cli/text.h"
-#include "host/tokeniser.h"
-#include "labelsbase/labelcvt/label_facts.h"
+#include "cli/verbs/keep.h"
 #include "labelsbase/labels.h"
 
 namespace cli {
@@ -23,142 +21,68 @@ namespace {
 
 struct arguments {
   std::vector<std::string> texts;
+  std::string format;
 
   // What to write instead.
   std::optional<std::string> type, start, length, pitch, roll;
   bool unbounded = false;
 };
 
-// --- Explaining ---
-
-// LABEL_REV:N TYPE START LENGTH SECONDS BOUNDED [MediumRollId IDENTIFIER]
-enum part : std::size_t {
-  header,
-  type_name,
-  start,
-  units,
-  seconds_per_unit,
-  bounded,
-  keyword,
-  identifier,
-  surplus,
-  parts
+constexpr field fields[] = {
+    input_field,
+    {"revision", value_type::integer, "Revision of the keep string", nullptr, may_be_missing},
+    {"label_type", value_type::text, "Class name of the label type", nullptr, may_be_missing},
+    {"start_label", value_type::text, "The first label", nullptr, may_be_missing},
+    {"start_sample", value_type::integer, "Sample of the first label", nullptr, may_be_missing},
+    {"length_frames", value_type::integer, "Length in frames", nullptr, may_be_missing},
+    {"length_samples", value_type::integer, "Length in samples", nullptr, may_be_missing},
+    {"seconds_per_frame", value_type::number, "Seconds a frame", nullptr, may_be_missing},
+    {"natural_seconds_per_frame", value_type::number, "Seconds a frame as the labels count", nullptr,
+     may_be_missing},
+    {"is_bounded", value_type::boolean, "Whether it answers only for offsets inside its length", nullptr,
+     may_be_missing},
+    {"identifier", value_type::text, "Numbers of medium and generation, if they are kept", nullptr,
+     may_be_missing},
+    {"user_text", value_type::text, "What users read for medium and generation", nullptr, may_be_missing},
+    problem_field,
 };
 
-using token = std::optional<std::string>;
-using token_list = std::array<token, parts>;
-
-token_list tokens_of(std::string const& text) {
-  token_list tokens;
-  tokeniser split{text.c_str(), " "};
-  for (auto& each : tokens) {
-    char const* const next = split.next();
-    if (!next) break;
-    each = next;
+// Shows all that can be read, and marks wrong parts. Writes nothing for a text that is not a keep string.
+exit_status explain_in_lines(arguments const& given, console& io) {
+  item_loop items{given.texts, io};
+  while (items.next()) {
+    if (items.is_blank_line()) io.results.line("");
+    if (items.is_blank_line() || items.is_refused()) continue;
+    auto const found = explain_keep(std::string{items.text()});
+    for (auto const& part : found.parts)
+      io.results.line(padded(part.name, 18) + (part.wrong ? "? " : "") + part.value);
+    if (found.wrong) items.refuse(*found.wrong);
   }
-  return tokens;
+  return items.status();
 }
 
-problem missing() { return "is missing"; }
-problem unexpected(std::string const& text, std::string const& why) { return in_quotes(text) + ": " + why; }
+exit_status explain_in_rows(arguments const& given, format how, console& io) {
+  std::optional<explained_keep> kept;  // what the row refers to
+  char identifier[labelsbase::identifier_text_size];
+  std::string user_text;
+  return for_each_item({given.texts}, how, fields, io, [&](std::string_view text, std::span<value> found) {
+    kept = explain_keep(std::string{text});
+    auto const& label = kept->label;
+    if (kept->wrong) return kept->wrong;
 
-problem header_problem(token const& text) {
-  if (!text) return missing();
-  auto const number = text->starts_with("LABEL_REV:") ? whole_number(text->substr(10)) : std::nullopt;
-  if (number && (*number == 1 || *number == 2)) return std::nullopt;
-  return unexpected(*text, "expected LABEL_REV:1");
+    auto& cvt = *label.start.cvt();
+    int const unit = cvt.samples_per_unit();
+    MediumRollId_to_string(identifier, label.medium_roll);
+    user_text = MediumRollId_to_UserString(label.medium_roll);
+    std::ranges::copy(std::initializer_list<value>{label.revision, cvt.type_str(), kept->start, label.start.sample,
+                                                   label.length / unit, label.length, label.pitch * unit,
+                                                   Label::get_natural_pitch(cvt.type()) * unit, label.bounded != 0,
+                                                   kept->has_roll ? value{identifier} : missing,
+                                                   kept->has_roll ? value{user_text} : missing},
+                      found.begin());
+    return problem{};
+  });
 }
-
-problem type_problem(token const& text) {
-  if (!text) return missing();
-  if (get_label_type(text->c_str()) != null_label_t) return std::nullopt;
-  return unexpected(*text, "unknown label type; expected a class name from 'labels types'");
-}
-
-problem start_problem(token const& text, label_t type) {
-  if (!text) return missing();
-  if (!labelsbase::facts_of(type).has_labels()) return unexpected(*text, "cannot be read without a valid type");
-  label_parts ignored;
-  auto const wrong = read_label(type, *text, ignored);
-  return wrong ? unexpected(*text, *wrong) : wrong;
-}
-
-problem whole_number_problem(token const& text) {
-  if (!text) return missing();
-  return whole_number(*text) ? std::nullopt : unexpected(*text, "expected a whole number");
-}
-
-problem seconds_problem(token const& text) {
-  if (!text) return missing();
-  auto const seconds = decimal(*text);
-  if (seconds && std::isfinite(*seconds) && *seconds > 0) return std::nullopt;
-  return unexpected(*text, "expected seconds, more than 0");
-}
-
-problem roll_problem(token const& word, token const& text, UserLabelType family) {
-  if (!word) return std::nullopt;  // a label without a roll
-  if (*word != MediumRollId_name_str())
-    return unexpected(*word, std::string{"expected "} + MediumRollId_name_str());
-  if (!text) return missing();
-  MediumRollIdent ignored;
-  auto const wrong = read_medium_roll(*text, family, ignored);
-  return wrong ? unexpected(*text, *wrong) : wrong;
-}
-
-std::string roll_value(EditLabel const& label, bool has_roll) {
-  char text[labelsbase::identifier_text_size];
-  MediumRollId_to_string(text, label.medium_roll);
-  return std::string{text} + ", " + MediumRollId_to_UserString(label.medium_roll) +
-         (has_roll ? "" : " (none kept)");
-}
-
-struct field {
-  char const* name;   // "start"
-  std::string value;  // as the library reads it
-  problem wrong;
-};
-
-// Returns the fields of a keep string, as far as the library reads them.
-std::vector<field> fields_of(std::string const& text, token_list const& tokens) {
-  EditLabel const label{text.c_str()};
-  auto& cvt = *label.start.cvt();
-  int const unit = cvt.samples_per_unit();
-
-  std::vector<field> fields{{"revision", std::to_string(label.revision), header_problem(tokens[header])}};
-  if (label.revision < 1 || label.revision > 2) return fields;
-
-  fields.push_back({"type", cvt.type_str(), type_problem(tokens[type_name])});
-  fields.push_back({"start", tokens[start].value_or("") + ", sample " + std::to_string(label.start.sample),
-                    start_problem(tokens[start], cvt.type())});
-  fields.push_back({"length", std::to_string(label.length / unit) + ", samples " + std::to_string(label.length),
-                    whole_number_problem(tokens[units])});
-  fields.push_back(
-      {"seconds per unit",
-       shortest(label.pitch * unit) + ", natural " + shortest(Label::get_natural_pitch(cvt.type()) * unit),
-       seconds_problem(tokens[seconds_per_unit])});
-  fields.push_back({"bounded", label.bounded != 0 ? "yes" : "no", whole_number_problem(tokens[bounded])});
-  fields.push_back({"medium and roll", roll_value(label, tokens[keyword].has_value()),
-                    roll_problem(tokens[keyword], tokens[identifier], cvt.UserType())});
-  if (tokens[surplus])
-    fields.push_back({"surplus", *tokens[surplus], unexpected(*tokens[surplus], "expected the end")});
-  return fields;
-}
-
-// Shows all that can be read, and marks wrong fields. Writes nothing for a text that is not a keep string.
-problem explain(std::string const& text, console& io) {
-  auto const tokens = tokens_of(text);
-  if (!tokens[header] || !tokens[header]->starts_with("LABEL_REV"))
-    return "not a keep string; expected one that begins with LABEL_REV:1";
-
-  problem wrong;
-  for (auto const& field : fields_of(text, tokens)) {
-    io.results.line(padded(field.name, 18) + (field.wrong ? "? " : "") + field.value);
-    if (field.wrong) wrong = (wrong ? *wrong + "; " : "") + field.name + " " + *field.wrong;
-  }
-  return wrong;
-}
-
-// --- Writing ---
 
 double seconds_of(std::string const& text) {
   auto const seconds = decimal(text);
@@ -199,6 +123,7 @@ exit_status write(arguments const& given, console& io) {
 command_run commands::declare_keep(CLI::App& command) {
   auto const given = std::make_shared<arguments>();
   add_operands(command, "TEXT", "Keep strings to explain, each in quotes", given->texts);
+  add_format(command, given->format, fields);
   auto* const writes =
       add_option(command, "--write", "TYPE", given->type, "Write the keep string of a label of this type instead");
   add_option(command, "--start", "LABEL", given->start, "Its first label")->needs(writes);
@@ -217,14 +142,11 @@ command_run commands::declare_keep(CLI::App& command) {
                           "sample 90000\nlength            250, samples 250\nseconds per unit  0.04, natural "
                           "0.04\nbounded           yes\nmedium and roll   20,2, 25i,1stGen"}});
   return [given](console& io) {
+    auto const how = find_format(given->format);
+    if (given->type && how != format::text)
+      refuse("--format", given->format, "--write writes a keep string, not rows; leave out --format");
     if (given->type) return write(*given, io);
-    item_loop items{given->texts, io};
-    while (items.next()) {
-      if (items.is_blank_line()) io.results.line("");
-      if (items.is_blank_line() || items.is_refused()) continue;
-      if (auto const wrong = explain(std::string{items.text()}, io)) items.refuse(*wrong);
-    }
-    return items.status();
+    return how == format::text ? explain_in_lines(*given, io) : explain_in_rows(*given, how, io);
   };
 }
 

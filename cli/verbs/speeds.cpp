@@ -21,9 +21,20 @@ namespace {
 
 struct pitch_arguments {
   std::string type, medium;
+  std::string format;
 };
 
-std::string reason(EditLabel const& label) {
+constexpr field pitch_fields[] = {
+    {"label_type", value_type::text, "Class name of the label type"},
+    {"medium", value_type::text, "Name of the medium"},
+    {"medium_number", value_type::integer, "Number of the medium"},
+    {"seconds_per_sample", value_type::number, "Seconds a sample on this medium"},
+    {"samples_per_second", value_type::number, "Samples a second on this medium"},
+    {"natural_seconds_per_sample", value_type::number, "Seconds a sample as the labels count"},
+    {"reason", value_type::text, "Why labels run at this speed"},
+};
+
+char const* reason(EditLabel const& label) {
   if (!label.pitch_fixed) return "no medium changes the speed of this type";
   if (label.medium_roll.medium == Medium_film && label.pitch == 1.0 / 24) return "film runs at 24 frames a second";
   bool const is_slower = std::abs(label.pitch * label.start.cvt()->get_modulus() - 1.001) < 1e-9;
@@ -37,13 +48,23 @@ exit_status pitch(pitch_arguments const& given, console& io) {
 
   EditLabel label{Label{type}, roll};
   label.fixup_pitch();
+  auto const type_name = label.start.cvt()->type_str();
+  auto const medium = labelsbase::medium_name(roll.medium);
+  auto const natural = Label::get_natural_pitch(type);
+  auto const why = reason(label);
+
+  record_writer rows{find_format(given.format), pitch_fields, io.results, text_layout::lines};
+  if (!rows.is_text()) {
+    rows.write({type_name, medium, roll.medium, label.pitch, 1 / label.pitch, natural, why});
+    return all_well;
+  }
   auto const show = [&](char const* name, std::string const& value) { io.results.line(padded(name, 20) + value); };
-  show("label type", label.start.cvt()->type_str());
-  show("medium", std::string{labelsbase::medium_name(roll.medium)} + " (" + std::to_string(roll.medium) + ")");
+  show("label type", type_name);
+  show("medium", std::string{medium} + " (" + std::to_string(roll.medium) + ")");
   show("seconds per sample", shortest(label.pitch));
   show("samples per second", shortest(1 / label.pitch));
-  show("natural", shortest(Label::get_natural_pitch(type)));
-  show("why", reason(label));
+  show("natural", shortest(natural));
+  show("why", why);
   return all_well;
 }
 
@@ -99,6 +120,7 @@ command_run commands::declare_pitch(CLI::App& command) {
   auto const given = std::make_shared<pitch_arguments>();
   add_type(command, given->type);
   add_required(command, "MEDIUM", given->medium, "Number (22) or name (src_2997p) from 'labels media'");
+  add_format(command, given->format, pitch_fields);
   add_examples(
       command,
       {{"pitch 29.97df src_2997p",
