@@ -95,7 +95,8 @@ class LABELSBASE_API LabelPoint {
   // the invalid point.
   [[nodiscard]] LabelPoint operator+(LabelPoint const& other) const;
 
-  // Returns the difference likewise.
+  // Returns the difference of two points of one type, moved into its range, without a prefix. Points of two types
+  // return the invalid point.
   [[nodiscard]] LabelPoint operator-(LabelPoint const& other) const;
 
   // Gives a key number a longer or shorter count of the same gauge. A longer count takes its leading digits from

@@ -49,10 +49,10 @@ struct MPosn_Xlate_Params;
 // Translates clock time to cel time, in seconds, by given parameters.
 [[nodiscard]] LABELSBASE_API double mPosn_Xlate_ClockToCel(double t, MPosn_Xlate_Params& p);
 
-// The same for the current project at a gearing.
+// Translates clock time to cel time, in seconds, for the current project at a gearing.
 [[nodiscard]] LABELSBASE_API double mPosn_Xlate_ClockToCel(double t, Kiv::OutputGearing const& g);
 
-// The same for the current project at its output gearing.
+// Translates clock time to cel time, in seconds, for the current project at its output gearing.
 [[nodiscard]] LABELSBASE_API double mPosn_Xlate_ClockToCel(double t);
 
 // Translates cel time to clock time, in seconds, by given parameters. Deliberate: this is not the exact inverse.
@@ -60,10 +60,10 @@ struct MPosn_Xlate_Params;
 // 50 is not put back.
 [[nodiscard]] LABELSBASE_API double mPosn_Xlate_CelToClock(double c, MPosn_Xlate_Params& p);
 
-// The same for the current project at a gearing.
+// Translates cel time to clock time, in seconds, for the current project at a gearing.
 [[nodiscard]] LABELSBASE_API double mPosn_Xlate_CelToClock(double c, Kiv::OutputGearing const& g);
 
-// The same for the current project at its output gearing.
+// Translates cel time to clock time, in seconds, for the current project at its output gearing.
 [[nodiscard]] LABELSBASE_API double mPosn_Xlate_CelToClock(double c);
 
 // Sets `velocity` to 1.0 and returns 0, whatever the arguments. Deliberate: hosts rely on the velocity staying 1.
