@@ -47,6 +47,7 @@ def with_remarks(lines):
 
 
 def header(text):
+    text = re.sub(r"#ifndef (\w+_H)\n#define \1\n(.*)#endif.*", r"\2", text, flags=re.DOTALL)  # no name of the interface
     lines = text.split("\n")
     if lines[0].startswith("// Private:"):
         return None
@@ -63,7 +64,9 @@ def header(text):
             end = next(i for i in range(number, len(lines)) if not lines[i].lstrip().startswith("//"))
             if not re.match(" *// NOLINT", line):
                 comment, indent = as_comment(lines[number:end]), indent_of(line)
-            out += comment if number == 0 else []
+            if number == 0:
+                out += comment
+                comment = []
             number = end
         elif line.startswith("#define"):
             out += comment + [line]
