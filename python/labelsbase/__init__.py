@@ -20,9 +20,9 @@ from ._points import INVALID_SAMPLE, LabelError, LabelPoint, parse
 from ._types import LabelFacts, NamedType, TypeName, facts, find_type, type_names
 
 __all__ = [
-    "EditLabel", "Family", "FilmFrame", "FrameRate", "Generation", "INVALID_SAMPLE", "Label", "LabelChoice", "LabelError",
-    "LabelFacts", "LabelPoint", "LabelType", "Medium", "MediumFacts", "NamedType", "Option", "Roll", "Transfer", "TypeName",
-    "VideoFrame", "add", "cel_to_clock", "clock_to_cel", "convert", "diff", "facts", "film_to_video", "find_choice",
+    "EditLabel", "Family", "FilmFrame", "FrameRate", "Generation", "INVALID_SAMPLE", "Label", "LabelChoice",
+    "LabelError", "LabelFacts", "LabelPoint", "LabelType", "Medium", "MediumFacts", "NamedType", "Option", "Roll",
+    "Transfer", "TypeName", "VideoFrame", "add", "cel_to_clock", "clock_to_cel", "convert", "diff", "facts", "film_to_video", "find_choice",
     "find_medium", "find_type", "is_valid", "label_choices", "medium_facts", "options", "parse", "set_option",
     "to_samples", "to_text", "type_names", "video_to_film",
 ]

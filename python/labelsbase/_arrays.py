@@ -149,7 +149,7 @@ def to_samples(type: TypeName, texts: Any, *, illegal: Illegal = "refuse",
     samples = _output(out, labels.shape, np.int32)
     masks = [] if stop else [np.empty(labels.shape, np.bool_)]
     for piece, numbers, *refused in _pieces([labels], [samples, *masks]):
-        if (first := _core.read_texts(found, mode, piece, numbers, *(refused or [None]))) >= 0:
+        if (first := _core.read_texts(found, mode, piece, numbers, refused[0] if refused else None)) >= 0:
             text = piece[first]
             spelling = text if isinstance(text, str) else text.decode("latin-1")
             field, position, nearest, reason = _core.read_text(found, spelling, mode)

@@ -107,8 +107,8 @@ class Roll:
         elif re.fullmatch(r"\d{1,2}(,[0-5])?", text, re.ASCII):
             medium, generation = _core.read_roll(text, family)
         if medium not in Medium._value2member_map_ or medium == Medium.none:
-            raise ValueError(f"{text!r} is not a roll; expected a medium from 1 to 70 and a generation from 0 to 5, such as "
-                             "'28,1', or 'REV: 1 MediumRollId: 28,1 reelid: A001'")
+            raise ValueError(f"{text!r} is not a roll; expected a medium from 1 to 70 and a generation from 0 to 5, such "
+                             "as '28,1', or 'REV: 1 MediumRollId: 28,1 reelid: A001'")
         return cls(medium, generation, reel)
 
     @property

@@ -116,8 +116,8 @@ class LabelPoint:
     >>> (LabelPoint("25", 100) - LabelPoint("25", 25)).__class__.__name__
     'int'
 
-    Sums count frames and wrap: timecode at the end of the day, key numbers after the last key. Points of one type and prefix compare
-    by their samples.
+    Sums count frames and wrap: timecode at the end of the day, key numbers after the last key. Points of one type and
+    prefix compare by their samples.
     """
 
     type: LabelType
