@@ -70,7 +70,8 @@ CLI::Option* add_flag(CLI::App& command, char const* name, std::string& value, c
 void add_examples(CLI::App& command, std::initializer_list<example> examples) {
   std::string text{"Examples:"};
   for (auto const& [line, output] : examples) {
-    text.append("\n  $ labels ").append(line);
+    bool const begins_with_tool = std::string_view{line}.starts_with(command_name(command) + " ");
+    text.append("\n  $ ").append(begins_with_tool ? "labels " : "").append(line);
     for (auto const& each : output ? CLI::detail::split(output, '\n') : std::vector<std::string>{})
       text.append("\n  ").append(each);
   }

@@ -39,7 +39,7 @@ CLI::Option* add_flag(CLI::App& command, char const* name, std::string& value, c
 // An example of a command, and what it writes to standard output and standard error: {"show 25 90000",
 // "01:00:00.00"}. A test runs those whose output is given.
 struct example {
-  char const* line;              // without "labels"; the shell reads it
+  char const* line;              // for the shell; "labels" goes before a line that begins with the command's name
   char const* output = nullptr;  // without the last line feed
 
   constexpr example(char const* line_, char const* output_ = nullptr) noexcept : line{line_}, output{output_} {}

@@ -210,8 +210,15 @@ command_run commands::declare_check(CLI::App& command) {
   add_option(command, "--ignore", "KIND,...", given->ignored,
              "Kinds of findings to leave out: form, rate, label, length, backwards, overlap, gap");
   add_format(command, given->format, check_fields);
-  add_examples(command, {"check cut.edl", "check --rate 29.97df --ignore gap cut.edl log.ale",
-                         "check --durations --format json cut.edl"});
+  add_examples(
+      command,
+      {{"echo '001 A001 V C 01:00:00:00 01:00:02:00 10:00:00:00 10:00:01:00' | labels check --rate 25",
+        "-:1:14: length: source has 50 frames, record 25\nlabels: -: decision list, 1 event at 25: 1 finding"},
+       {"echo '001 A001 V C 01:00:00:00 01:00:01:12 10:00:00:00 10:00:01:12' | labels check --rate 25 --durations",
+        "001           A001        V       00:00:01:12  37 frames  1.480 s\n"
+        "total                     V       00:00:01:12  37 frames  1.480 s\n"
+        "labels: -: decision list, 1 event at 25: nothing wrong"},
+       "check --rate 29.97df --ignore gap --format json cut.edl log.ale"});
   return [given](console& io) { return check(*given, io); };
 }
 

@@ -168,8 +168,11 @@ command_run commands::declare_range(CLI::App& command) {
   add_reading(command, given->reading);
   add_writing(command, given->writing);
   add_format(command, given->format, fields);
-  add_examples(command, {"range 29.97df '00:00:59;28' '00:01:00;03'",
-                         "range 25 01:00:00:00 01:01:00:00 --step 250", "range feet35 0100+00 0099+00 --step -4"});
+  add_examples(
+      command,
+      {{"range 29.97df '00:00:59;28' '00:01:00;03'", "00:00:59;28\n00:00:59;29\n00:01:00;02\n00:01:00;03"},
+       {"range 25 01:00:00:00 01:00:30:00 --step 250", "01:00:00.00\n01:00:10.00\n01:00:20.00\n01:00:30.00"},
+       {"range feet35 0100+00 0099+00 --step -4", "0100+00\n0099+12\n0099+08\n0099+04\n0099+00"}});
   return [given](console& io) { return range(*given, io); };
 }
 
@@ -178,7 +181,8 @@ command_run commands::declare_day(CLI::App& command) {
   add_type(command, given->kind.type);
   add_writing(command, given->writing);
   add_format(command, given->format, fields);
-  add_examples(command, {"day 29.97df", "day 25 --style exchange | wc -l"});
+  add_examples(command, {{"day 29.97df | sed -n '1800,1801p;1801q'", "00:00:59;29\n00:01:00;02"},
+                         {"day 25 --style exchange | wc -l", "2160000"}});
   return [given](console& io) { return day(*given, io); };
 }
 

@@ -116,9 +116,14 @@ command_run commands::declare_rewrite(CLI::App& command) {
   add_flag(command, "--in-place", given->in_place,
            "Replace each FILE, whole or not at all. --in-place=.bak keeps the old one as FILE.bak");
   add_operands(command, "FILE", "Text to rewrite; - or none for standard input", given->files);
-  add_examples(command, {"rewrite --from 25 --to 29.97df cut.edl",
-                         "rewrite --from 24 --to 25 --by frame --in-place=.bak cut.edl",
-                         "rewrite --from 24 --to feet35 --column Start --add-column Feet log.ale"});
+  add_examples(
+      command,
+      {{"echo 'Take 3 from 01:00:00:12 to 01:00:10:00' | labels rewrite --from 25 --to 29.97df",
+        "Take 3 from 01:00:00;14 to 01:00:10;00\nlabels: -: text, 1 line: 2 labels found, 2 changed, 0 refused"},
+       {"printf 'Shot,Start\\n12A,00:00:10:00\\n' | labels rewrite --from 24 --to feet35 --column Start "
+        "--add-column Feet",
+        "Shot,Start,Feet\n12A,00:00:10:00,0015+00\nlabels: -: CSV, 2 lines: 1 label found, 1 changed, 0 refused"},
+       "rewrite --from 24 --to 25 --by frame --in-place=.bak cut.edl"});
   return [given](console& io) { return rewrite(*given, io); };
 }
 
