@@ -13,7 +13,7 @@ if(LABELSBASE_C)
   install(TARGETS labels_c EXPORT labelsbaseTargets FILE_SET HEADERS DESTINATION "${labelsbase_include_dir}")
 endif()
 if(LABELSBASE_TOOL)
-  install(TARGETS labels EXPORT labelsbaseTargets)
+  install(TARGETS labels)
 endif()
 
 install(EXPORT labelsbaseTargets NAMESPACE labelsbase:: DESTINATION "${labelsbase_cmake_dir}")
