@@ -19,7 +19,7 @@ struct kept_part {
 struct explained_keep {
   EditLabel label;               // as the library reads it
   std::string start;             // its first label, as it stands in the text
-  bool has_roll;                 // without one, the label has the medium and generation of any
+  bool has_roll;                 // whether it keeps a medium and generation
   std::vector<kept_part> parts;  // as far as the library reads them
   problem wrong;                 // with all parts; nothing if the keep string is valid
 };
