@@ -2,9 +2,9 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "cli/input.h"
 #include "cli/records.h"
@@ -19,17 +19,15 @@ inline constexpr field problem_field{"problem", value_type::text, "Why it was re
 // the fields with a heading make a line, and each item keeps its line: a blank line stays, and --refused stands in
 // for a refused item.
 //
-//   constexpr field read_fields[] = {input_field, {"frames", value_type::integer, "...", "frames",
-//   may_be_missing},
-//                                    problem_field};
+//   constexpr field frames_field{"frames", value_type::integer, "...", "frames", may_be_missing};
+//   constexpr field read_fields[] = {input_field, frames_field, problem_field};
 //   return for_each_item(given.items, find_format(given.format), read_fields, io,
 //                        [&](std::string_view text, std::span<value> found) -> problem { found[0] = 1800; ... });
 template <typename Take>
 [[nodiscard]] exit_status for_each_item(item_arguments const& given, format how, std::span<field const> fields,
                                         console& io, Take const& take) {
-  constexpr std::size_t most_fields = 16;
-  std::array<value, most_fields> values;
-  std::span const row{values.data(), fields.size()};
+  std::vector<value> values(fields.size());
+  std::span const row{values};
   std::span const found = row.subspan(1, row.size() - 2);
   record_writer records{how, fields, io.results, text_layout::lines};
   if (records.is_text())
