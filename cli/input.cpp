@@ -79,7 +79,9 @@ void item_loop::refuse(std::string_view why) {
   if (status_ == all_well) status_ = some_refused;
   auto message = refusal(io_.place.text() + ":", text_, why);
   if (!is_at_lines_ && is_file(operand_))
-    message.append("; this is a file: read its lines with '<").append(text_).append("'");
+    message.append("; this is a file: 'labels check' and 'labels rewrite' take lists, and '<")
+        .append(text_)
+        .append("' gives its lines");
   io_.say(message);
 }
 

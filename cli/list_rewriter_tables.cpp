@@ -54,6 +54,9 @@ void list_rewriter::read_heading(std::string_view beginning) {
 }
 
 void list_rewriter::choose_column() {
+  auto const is_added = [this](auto const& each) { return lists::same_letters(each, *columns_.added); };
+  if (columns_.added && std::ranges::any_of(headings_, is_added))
+    cli::refuse("--add-column", *columns_.added, name_ + " has a column of this name; expected another name");
   auto const& wanted = *columns_.column;
   auto const is_wanted = [&wanted](auto const& each) { return lists::same_letters(each, wanted); };
   if (auto const named = std::ranges::find_if(headings_, is_wanted); named != headings_.end()) {

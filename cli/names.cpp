@@ -38,8 +38,11 @@ labelnames::named_type find_named_type(std::string_view where, std::string_view 
   if (auto const named = labelnames::find(text)) return *named;
   if (names_a_base(text))
     refuse(where, text, std::string{text} + " has no labels of its own; expected a name from 'labels types'");
-  if (all_digits(text) && labelnames::find("#" + std::string{text}))
-    refuse(where, text, "unknown rate; for the type of this number write '#" + std::string{text} + "'");
+  auto const in_digits = all_digits(text) ? std::string{text} : "";
+  if (labelnames::find(in_digits + "mm"))
+    refuse(where, text, "unknown rate; for film write '" + in_digits + "mm' or 'feet" + in_digits + "'");
+  if (labelnames::find("#" + in_digits))
+    refuse(where, text, "unknown rate; for the type of this number write '#" + in_digits + "'");
   auto const near = near_names(text);
   refuse(
       where, text,

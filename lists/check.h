@@ -65,7 +65,7 @@ enum class rate_origin {
   unknown,
   given,    // in the options
   stated,   // by a rate line of the list
-  deduced,  // the only rate at which the lengths of the events agree
+  deduced,  // the one rate at which most lengths of the events agree
 };
 
 struct check_result {

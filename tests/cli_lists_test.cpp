@@ -32,7 +32,7 @@ class Lists : public Tool {
 TEST_F(Lists, AreChecked) {
   expect({
       {"labels check cut.edl log.ale", "",
-       "labels: cut.edl: decision list, 4 events at 25 (deduced from their lengths): nothing wrong\n"
+       "labels: cut.edl: decision list, 4 events at 25 (the rate at which most lengths agree): nothing wrong\n"
        "labels: log.ale: log, 2 events at 25: nothing wrong\n"},
       {"sed 's/10:00:03:15 10:00:04/10:00:03:13 10:00:04/; s/$/ \\r/' cut.edl | labels check --rate pal",
        "-:7:30: length: source has 25 frames, record 27\n"
@@ -159,6 +159,8 @@ TEST_F(Lists, AreRewrittenByColumn) {
        "--from \"frames\": its labels are bare numbers; name their", 2},
       {"labels rewrite --from 25 --to 24 --column Begin log.ale", "",
        "--column \"Begin\": no such column; expected", 2},
+      {"labels rewrite --from 25 --to 24 --column 2 --add-column end log.ale", "",
+       "--add-column \"end\": log.ale has a column of this name; expected another name\n", 2},
       {"labels rewrite --from 25 --to 24 --column 1 cut.edl", "", "cut.edl is no table with columns\n", 2},
       {"labels rewrite --from 25 --to 24 --add-column A cut.edl", "", "--add-column \"A\": needs --column", 2},
   });

@@ -78,6 +78,7 @@ TEST_F(Tool, NamesTypesAsPeopleDo) {
       {"labels show 29.79 1", "", "labels: TYPE \"29.79\": unknown label type; nearest: 29.97, 239.76\n", 2},
       {"labels show feet 1", "", "unknown label type; nearest: feet35, feet35-3p, feet16\n", 2},
       {"labels show 35mm-3 1", "", "nearest: 35mm, 35mm-3p, 35mm-3p-4digits\n", 2},
+      {"labels show 35 1", "", "unknown rate; for film write '35mm' or 'feet35'\n", 2},
       {"labels show 5 1", "", "unknown rate; for the type of this number write '#5'\n", 2},
       {"labels types DROP key-number", "name  label  other names  exchange  class  number  meaning\n",
        "labels: no label type has all of these words\n", 1},
@@ -155,7 +156,8 @@ TEST_F(Tool, ReadsAnyText) {
        "labels: standard input: the text is UTF-16;", 2},
       {"printf '01:00:00:00\\n' | iconv -t UTF-16BE | labels read 25", "", "expected UTF-8 or ASCII", 2},
       {"echo 00:00:00:02 | labels read 25 00:00:00:01 - 00:00:00:03", "1\n2\n3\n"},
-      {"echo 1 >cut.edl; labels read 25 cut.edl", "?\n", "this is a file: read its lines with '<cut.edl'\n", 1},
+      {"echo 1 >cut.edl; labels read 25 cut.edl", "?\n",
+       "this is a file: 'labels check' and 'labels rewrite' take lists, and '<cut.edl' gives its lines\n", 1},
       {"labels diff 25 --origin 01:00:00:00 01:00:00:10 01:01:00:00", "10\n1500\n"},
   });
 }

@@ -136,7 +136,7 @@ class checking {
     std::string text = format_name(result.format);
     text += ", " + std::to_string(result.events) + (result.events == 1 ? " event" : " events");
     if (result.rate) text += " at " + lists::rate_name(*result.rate);
-    if (result.origin == lists::rate_origin::deduced) text += " (deduced from their lengths)";
+    if (result.origin == lists::rate_origin::deduced) text += " (the rate at which most lengths agree)";
     if (found == 0) return text + ": nothing wrong";
     return text + ": " + std::to_string(found) + (found == 1 ? " finding" : " findings");
   }
