@@ -3,10 +3,10 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -29,7 +29,7 @@ class output {
 
   void write(std::string_view text) noexcept {
     if (text.size() > buffer_.size() - used_) return write_across_blocks(text);
-    std::memcpy(buffer_.data() + used_, text.data(), text.size());
+    std::copy_n(text.data(), text.size(), buffer_.data() + used_);  // empty texts may be null
     used_ += text.size();
   }
 
