@@ -13,7 +13,7 @@ void set_prefix(LabelPoint& point, std::string_view prefix) noexcept {
 }  // namespace
 
 writer::writer(label_t type, std::string_view prefix, label_style style)
-    : own_converter_{labelsbase::facts_of(type).film.prefix_length > 0 ? make_any_label_cvt(type) : nullptr},
+    : own_converter_{make_any_label_cvt(type)},
       negative_{own_converter_ ? *own_converter_ : *get_static_label_cvt(type), 0},
       positive_{negative_},
       range_{range_of(type)} {

@@ -34,8 +34,8 @@ class writer {
   [[nodiscard]] std::string_view write(int sample);
 
  private:
-  // A converter remembers the prefix that it last wrote. With one of their own, writers on several threads never
-  // mix up their prefixes. Null for types without prefix.
+  // A converter remembers what it last wrote. With one of their own, writers on several threads never mix up their
+  // prefixes, and do not wait for each other's memory. Null if the host has no memory: the shared one serves then.
   std::unique_ptr<label_cvt> own_converter_;
   LabelPoint negative_;
   LabelPoint positive_;
