@@ -27,8 +27,7 @@ struct short_entry {
 //   entry     = ("+" | "-")? (digits | fields)
 //   digits    = digit+                                        cut into fields from the right
 //   fields    = digit* (separator digit*)+ ("." digit)?       counted from the right; an empty field is 0
-//   separator = one of : ; . , + &                            "." only before the perforation at 3 perforations a
-//   frame
+//   separator = one of : ; . , + &                            "." only before a perforation
 //
 // The fields of timecode are hours, minutes, seconds and frames, those of film the count and its frames. Left-out
 // fields are 0, a left-out perforation is 1. A distance that drop-frame leaves out, 1:00:00, becomes the next

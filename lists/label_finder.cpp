@@ -22,7 +22,7 @@ class cursor {
   }
   void skip() noexcept { ++at_; }
 
-  // Skips exactly so many digits, or none.
+  // Skips `count` digits. Returns false and skips nothing if there are fewer.
   bool digits(int count) noexcept {
     for (std::size_t i = 0; i < static_cast<std::size_t>(count); ++i)
       if (!is_digit(peek(i))) return false;

@@ -3,8 +3,8 @@
 
     relabel_many.py LOGS OUT --column start --from 25 --to 29.97df
 
-The logs are CSV files with the same columns. Each gets two columns more: the new label, and why there is none. If a
-worker dies, Dask gives its logs to another one.
+The logs are CSV files with the same columns. Each gets two columns more: the new label, and the reason if it was
+refused. If a worker dies, Dask gives its logs to another one.
 """
 from __future__ import annotations
 

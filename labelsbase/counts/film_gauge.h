@@ -50,7 +50,7 @@ class film_gauge {
         has_whole_frames_{perfs_per_count_ % per_frame_.divisor() == 0},
         per_count_{has_whole_frames_ ? frames_per_count_ : perfs_per_count_} {}
 
-  // Returns the gauge of keys (feet, ink numbers) of so many whole frames. Both from 1 up; numbers below 1 count
+  // Returns the gauge of keys, feet or ink numbers of whole frames. Both numbers are from 1 up; smaller ones count
   // as 1. Perforations of a key beyond 32 bits wrap.
   [[nodiscard]] static constexpr film_gauge of_whole_frames(int perfs_per_frame, int frames_per_count) noexcept {
     film_gauge gauge;

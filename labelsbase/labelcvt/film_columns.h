@@ -36,7 +36,7 @@ inline char* put_count_and_frame(char* out, int count, int digits, char separato
 // Prefixes of up to a block are looked at and copied all at once.
 using prefix_block = std::uint64_t;
 
-// The lowest bit of each character behind a prefix of so many.
+// By the length of a prefix: the lowest bit of each character behind it.
 inline constexpr auto behind_prefix = [] {
   std::array<prefix_block, sizeof(prefix_block) + 1> blocks{};
   for (std::size_t length = 0; length < blocks.size(); ++length) {
