@@ -57,6 +57,7 @@ class list_rewriter {
 
   void take_statement(lists::line const& in);
   void take(lists::remark);
+  void take(lists::audio_channels) { take(lists::remark{}); }
   void take(lists::title const&) { take_text(in_->text, width::free); }
   void take(lists::broken_event const&) { take_text(in_->text, width::fixed); }
   void take(lists::event const& says);

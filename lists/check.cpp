@@ -42,7 +42,7 @@ class list_checker final : public list_sink {
   }
 
   void take_broken(placed_text const& where, char const* why) override {
-    report({finding_kind::form, where.line, where.column, '"' + where.text + "\": " + why});
+    report(finding_kind::form, where, '"' + where.text + "\": " + why);
   }
 
   // The first code mode, above all events, holds for source and record. A later one holds for the sources.
@@ -59,8 +59,8 @@ class list_checker final : public list_sink {
   void take_rate(placed_text const& where) override {
     auto const stated = labelnames::find(where.text);
     if (!stated || !labelsbase::facts_of(stated->type).is_timecode()) {
-      report({finding_kind::rate, where.line, where.column,
-              '"' + where.text + "\": unknown rate; expected frames a second, such as 25 or 29.97"});
+      report(finding_kind::rate, where,
+             '"' + where.text + "\": unknown rate; expected frames a second, such as 25 or 29.97");
       return;
     }
     if (!result_.rate) {
@@ -69,17 +69,20 @@ class list_checker final : public list_sink {
       set_rate(mode_is_open_ ? in_mode(*stated, false) : *stated, rate_origin::stated);
     } else if (labelsbase::facts_of(stated->type).timecode.frames_per_second !=
                labelsbase::facts_of(result_.rate->type).timecode.frames_per_second) {
-      report({finding_kind::rate, where.line, where.column,
-              "the list says " + where.text + " frames a second, but its rate is given as " +
-                  rate_name(*result_.rate)});
+      report(finding_kind::rate, where,
+             "the list says " + where.text + " frames a second, but its rate is given as " +
+                 rate_name(*result_.rate));
     }
   }
 
   void finish() {
     if (is_undecided()) decide();
     order_.for_each_gap([&](record_order::gap const& gap) {
-      report({finding_kind::gap, gap.line, gap.column,
-              frames(gap.frames) + on_track(gap.track) + " empty after line " + std::to_string(gap.after_line)});
+      report({finding_kind::gap,
+              gap.line,
+              gap.column,
+              frames(gap.frames) + on_track(gap.track) + " empty after line " + std::to_string(gap.after_line),
+              {}});
     });
   }
 
@@ -90,6 +93,10 @@ class list_checker final : public list_sink {
 
   static std::string on_track(std::string_view track) {
     return track.empty() ? std::string{} : std::string{" of "}.append(track);
+  }
+
+  void report(finding_kind kind, placed_text const& where, std::string text, std::string const& event = {}) {
+    report({kind, where.line, where.column, std::move(text), event});
   }
 
   void report(finding const& what) {
@@ -128,13 +135,13 @@ class list_checker final : public list_sink {
 
   void apply(placed_mode const& mode, bool is_first) {
     if (is_first && is_drop_frame(result_.rate->type) != mode.drop_frame)
-      report({finding_kind::rate, mode.words.line, mode.words.column,
-              "the list says " + mode.words.text + ", but its rate is given as " + rate_name(*result_.rate)});
+      report(finding_kind::rate, mode.words,
+             "the list says " + mode.words.text + ", but its rate is given as " + rate_name(*result_.rate));
     if (is_first) return;
     source_rate_ = in_mode(*result_.rate, mode.drop_frame);
     if (is_drop_frame(source_rate_.type) != mode.drop_frame)
-      report({finding_kind::rate, mode.words.line, mode.words.column,
-              "the list says " + mode.words.text + ", but its rate is " + rate_name(*result_.rate)});
+      report(finding_kind::rate, mode.words,
+             "the list says " + mode.words.text + ", but its rate is " + rate_name(*result_.rate));
   }
 
   void check(list_event const& event) {
@@ -159,9 +166,10 @@ class list_checker final : public list_sink {
       bool const is_source = label == &event.source.in || label == &event.source.out;
       auto const& rate = is_source ? source_rate_ : *result_.rate;
       if (is_drop_frame(rate.type) || std::exchange(has_reported_marks_, true)) continue;
-      report({finding_kind::rate, label->line, label->column,
-              '"' + label->text + "\": \";\" marks drop-frame, but the rate is " + rate_name(rate) +
-                  "; further labels like it are not reported"});
+      report(finding_kind::rate, *label,
+             '"' + label->text + "\": \";\" marks drop-frame, but the rate is " + rate_name(rate) +
+                 "; further labels like it are not reported",
+             event.name.text);
     }
   }
 
@@ -185,8 +193,8 @@ class list_checker final : public list_sink {
     auto const others = widest.first_line == widest.last_line ? "line " + std::to_string(widest.first_line)
                                                               : "lines " + std::to_string(widest.first_line) +
                                                                     " to " + std::to_string(widest.last_line);
-    report({finding_kind::overlap, label.line, label.column,
-            frames(widest.frames) + on_track(on) + " already recorded in " + others});
+    report(finding_kind::overlap, label, frames(widest.frames) + on_track(on) + " already recorded in " + others,
+           event.name.text);
   }
 
   check_handlers const& handlers_;

@@ -41,6 +41,7 @@ struct finding {
   std::int64_t line;   // from 1
   std::size_t column;  // from 1
   std::string text;    // what is wrong, with what was found and what was expected
+  std::string event;   // its number in a decision list, its name in a log; empty if the finding is of no event
 };
 
 // The length of an event: of its record span if it has one, otherwise of its source or its marks, otherwise as

@@ -78,6 +78,15 @@ statement read_speed(std::string_view rest) noexcept {
   return is_number ? statement{read} : statement{remark{}};
 }
 
+statement read_audio_channels(std::string_view rest) noexcept {
+  audio_channels read{false, false};
+  for (auto word = take_first_word(rest); !word.empty(); word = take_first_word(rest)) {
+    if (word != "3" && word != "4") return remark{};
+    (word == "3" ? read.third : read.fourth) = true;
+  }
+  return read.third || read.fourth ? statement{read} : statement{remark{}};
+}
+
 }  // namespace
 
 bool looks_like_timecode(std::string_view word) noexcept {
@@ -98,6 +107,7 @@ statement read_statement(std::string_view line) noexcept {
   auto const word = take_first_word(rest);
   if (all_digits(word) && word.size() <= most_number_digits) return read_event(word, rest);
   if (same_letters(word, "M2")) return read_speed(rest);
+  if (same_letters(word, "AUD")) return read_audio_channels(rest);
   if (same_letters(word, "FCM:")) return read_code_mode(rest);
   if (same_letters(word, "TITLE:")) return title{trimmed(rest)};
   return remark{};

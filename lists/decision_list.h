@@ -3,7 +3,7 @@
 //   001  TAPE1    V     C        01:00:00:00 01:00:02:00 10:00:00:00 10:00:02:00
 //   M2   TAPE1        012.5                01:00:00:00
 //
-//   line       = [ event | code-mode | speed | title | remark ] blank*
+//   line       = [ event | code-mode | speed | channels | title | remark ] blank*
 //   event      = number reel tracks transition label label label label       source in, out, record in, out
 //   transition = "C" | kind length                                           length: frames, 1 to 5 digits
 //   kind       = "D" | "K" | "KB" | "K" "B" | "KO" | "K" "O" | "W" digit+
@@ -12,6 +12,7 @@
 //   tracks     = any word: "V", "A", "AA/V", "A2", "B", "NONE"
 //   code-mode  = "FCM:" ( "DROP FRAME" | "NON-DROP FRAME" | "NON DROP FRAME" )
 //   speed      = "M2" reel number label                                      frames a second, with a sign
+//   channels   = "AUD" ( "3" | "4" | "3" "4" )                            more tracks of the event above
 //   title      = "TITLE:" text
 //   remark     = any other line
 //
@@ -48,6 +49,11 @@ struct speed_effect {
   std::string_view entry;              // the label at which it begins; may be empty
 };
 
+// Audio channels that an event is recorded on besides its tracks.
+struct audio_channels {
+  bool third, fourth;
+};
+
 struct title {
   std::string_view text;
 };
@@ -59,7 +65,7 @@ struct broken_event {
 
 struct remark {};  // comments, effect names, blank lines and other statements
 
-using statement = std::variant<remark, event, code_mode, speed_effect, title, broken_event>;
+using statement = std::variant<remark, event, code_mode, speed_effect, audio_channels, title, broken_event>;
 
 // Returns what a line says. The parts are views into the line.
 [[nodiscard]] statement read_statement(std::string_view line) noexcept;

@@ -43,7 +43,7 @@ class event_checker {
 
  private:
   void report(finding_kind kind, placed_text const& where, std::string text, std::size_t further = 0) const {
-    found_({kind, where.line, where.column + further, std::move(text)});
+    found_({kind, where.line, where.column + further, std::move(text), event_.name.text});
   }
 
   std::optional<std::int64_t> read_quietly(placed_text const& label) const {

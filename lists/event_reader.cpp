@@ -70,6 +70,13 @@ class decision_list_reader final : public event_reader {
                         "the speed effect belongs to no event above it: expected the reel of one");
   }
 
+  void take(line const&, audio_channels const& says) {
+    if (size_ == 0) return;
+    auto& tracks = sides_[size_ - 1].tracks;
+    if (says.third) tracks += "/A3";
+    if (says.fourth) tracks += "/A4";
+  }
+
   void take(line const& in, broken_event const& says) {
     finish();
     sink_.take_broken(place(in, says.number),

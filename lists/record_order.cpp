@@ -7,7 +7,6 @@
 namespace lists {
 
 track_names::track_names(std::string_view word) noexcept {
-  if (same_letters(word, "NONE")) return;
   for (;;) {
     auto const slash = word.find('/');
     auto const part = word.substr(0, slash);
@@ -17,7 +16,7 @@ track_names::track_names(std::string_view word) noexcept {
     if (has_first) add("A1");
     if (is_pair) add("A2");
     if (is_both) add("V");
-    if (!has_first) add(part);
+    if (!has_first && !same_letters(part, "NONE")) add(part);
     if (slash == std::string_view::npos) return;
     word.remove_prefix(slash + 1);
   }

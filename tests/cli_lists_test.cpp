@@ -41,7 +41,7 @@ TEST_F(Lists, AreChecked) {
       {"sed 7s/05:00/05:25/ cut.edl | labels check --format jsonl --ignore gap,length -",
        "{\"file\":\"-\",\"line\":7,\"column\":39,\"kind\":\"label\",\"message\":\"\\\"01:00:05:25\\\": frames run "
        "from 00 to"
-       " 24; nearest is 01:00:05:24\",\"event\":null,\"reel\":null,\"tracks\":null,\"length_label\":null,"
+       " 24; nearest is 01:00:05:24\",\"event\":\"003\",\"reel\":null,\"tracks\":null,\"length_label\":null,"
        "\"length_frames\":null,\"length_seconds\":null}\n",
        ": 1 finding\n", 1},
       {"labels check --durations cut.edl | sed 's/  */ /g'",

@@ -109,6 +109,10 @@ TEST(DecisionList, ReadsStatements) {
       {"004 C 01:00:00:00 01:00:01:00 10:00:00:00 10:00:01:00", "broken|004"},
       {"M2   R 1   -025.0   01:00:00:00 ", "speed|R 1|-025.0|01:00:00:00"},
       {"m2 R +12", "speed|R|+12|"},
+      {"AUD  3  4", "audio|3|4"},
+      {"aud 4", "audio||4"},
+      {"AUD 5", "remark"},
+      {"AUD", "remark"},
       {"M2 R fast 01:00:00:00", "remark"},
       {"FCM: DROP FRAME\t", "mode|DROP FRAME|1"},
       {"FCM: NON DROP FRAME", "mode|NON DROP FRAME|0"},
@@ -127,6 +131,9 @@ TEST(DecisionList, ReadsStatements) {
     }
     std::string operator()(speed_effect const& s) {
       return joined({"speed", s.reel, s.frames_per_second, s.entry});
+    }
+    std::string operator()(audio_channels const& a) {
+      return joined({"audio", a.third ? "3" : "", a.fourth ? "4" : ""});
     }
     std::string operator()(event const& e) {
       return joined({"event", e.number, e.reel, e.tracks, e.transition, e.transition_frames});
@@ -189,6 +196,10 @@ TEST(Check, FindsWhatIsWrong) {
       {at_25 + event("00:10 00:00", "00:15 01:00"), "", "2:42 backwards", "25"},
       {at_25 + event("00:00 00:10", "00:14 00:24"), "", "2:54 overlap", "25"},
       {at_25 + event("00:00 00:10", "00:16 01:01"), "", "2:54 gap", "25"},
+      {at_25 + "AUD 3 4\n002 R A4 C 01:00:00:00 01:00:01:00 01:00:00:14 01:00:01:14\n", "", "3:36 overlap", "25"},
+      {"001 R NONE C 01:00:00:00 01:00:01:00 01:00:00:00 01:00:01:00\nAUD 3\n002 R A3 C 01:00:00:00 01:00:01:00 "
+       "01:00:01:01 01:00:02:01\n",
+       "25", "3:36 gap", "25"},
       {event("00:00 00:10", "00:15 01:00") + at_25, "25", "", "25"},  // in any order
       {event("00:00 00:10", "00:10 00:20") + "M2 R 050.0 01:00:00:00\n", "25", "", "25"},
       {event("00:00 00:20", "00:10 00:20") + "M2 R 050.0 01:00:00:00\n", "25", "", "25"},

@@ -144,7 +144,7 @@ class checking {
   void write(std::string const& file, lists::finding const& what) {
     if (!records_.is_text()) {
       records_.write({file, what.line, static_cast<std::int64_t>(what.column), kind_name(what.kind), what.text,
-                      missing, missing, missing, missing, missing, missing});
+                      text_or_missing(what.event), missing, missing, missing, missing, missing});
       return;
     }
     auto const place = file + ':' + std::to_string(what.line) + ':' + std::to_string(what.column);
