@@ -77,8 +77,13 @@ class film_gauge {
   [[nodiscard]] constexpr film_place split(int perfs) const noexcept {
     if (!has_whole_frames_) [[unlikely]]
       return split_within_frames(perfs);
-    if (perfs >= 0) return split_whole_frames(static_cast<unsigned>(perfs));
-    auto const at = split_whole_frames(0U - static_cast<unsigned>(perfs));
+    return split_whole_frames(perfs);
+  }
+
+  // Returns the place of a perforation where keys hold whole frames, rounding toward key 0.
+  [[nodiscard]] constexpr film_place split_whole_frames(int perfs) const noexcept {
+    if (perfs >= 0) return split_magnitude(static_cast<unsigned>(perfs));
+    auto const at = split_magnitude(0U - static_cast<unsigned>(perfs));
     return {wrap_negate(at.count), wrap_negate(at.frame), 0};
   }
 
@@ -89,8 +94,8 @@ class film_gauge {
   }
 
  private:
-  // Splits a magnitude from 0 to 2^31.
-  [[nodiscard]] constexpr film_place split_whole_frames(unsigned perfs) const noexcept {
+  // Splits a magnitude from 0 to 2^31 into whole frames.
+  [[nodiscard]] constexpr film_place split_magnitude(unsigned perfs) const noexcept {
     unsigned const frames = per_frame_.quotient_of_magnitude(perfs);
     unsigned const count = per_count_.quotient_of_magnitude(frames);
     unsigned const frame = frames - count * static_cast<unsigned>(frames_per_count_);

@@ -14,28 +14,20 @@ constexpr film_gauge three_perf = facts_of(foot_353_label_t).film.gauge;
 
 bool has_sign_column(LabelPoint const& point) noexcept { return *point.label_template.text() == '-'; }
 
-struct parts {
-  bool negative;
-  int feet, frames;
-};
+char const* behind_blanks(char const* text) noexcept {
+  text = or_empty(text);
+  while (is_blank(*text)) ++text;
+  return text;
+}
 
-// Reads any text behind its sign. A function of its own: labels that fill their columns need no stack.
-[[gnu::noinline]] parts read_any_parts(char const* text, bool negative) noexcept {
+// Reads feet and frames of any text behind its sign.
+film_place read_any_place(char const* text) noexcept {
   // Deliberate: passes over a number that begins right here, so one behind a blank is read twice.
   text_reader in{text};
   auto const feet = in.number();
   if (feet && !is_blank(*text)) text = in.rest();
   if (*text) ++text;
-  return {negative, feet.value_or(0), text_reader{text}.number().value_or(0)};
-}
-
-inline parts read_parts(char const* text) noexcept {
-  while (is_blank(*text)) ++text;
-  bool const negative = *text == '-';
-  text += negative;
-  parts read{negative, 0, 0};
-  bool const fills_columns = read_count_and_frame(text, 4, read.feet, read.frames) && !is_digit(text[7]);
-  return fills_columns ? read : read_any_parts(text, negative);
+  return {feet.value_or(0), text_reader{text}.number().value_or(0), 0};
 }
 
 }  // namespace
@@ -83,7 +75,7 @@ int foot_label::get_abs_sample(char const* text) { return feet_to_samples(text);
 
 char const* foot_label::samples_to_feet(LabelPoint* point, int perfs) {
   if (!point || !has_own_gauge()) return write_any(point, perfs);
-  auto const at = gauge_.split(wrap_magnitude(perfs));
+  auto const at = gauge_.split_whole_frames(wrap_magnitude(perfs));
   if (!fills_columns(at)) return write_any(point, perfs);
   int const digits = feet_digits_;
   char* out = point->text;
@@ -105,9 +97,21 @@ char const* foot_label::samples_to_feet(LabelPoint* point, int perfs) {
 }
 
 int foot_label::feet_to_samples(char const* text) {
-  auto const [negative, feet, frames] = read_parts(or_empty(text));
-  int const perfs = wrap_mul(wrap_add(wrap_mul(feet, modulus_), frames), perfs_per_frame_);
+  text = behind_blanks(text);
+  film_place at{};
+  if (!read_count_and_frame(text, 4, at.count, at.frame) || is_digit(text[7])) return read_any(text);
+  return join(at);
+}
+
+// A function of its own: labels that fill their columns need no stack.
+[[gnu::noinline]] int foot_label::read_any(char const* text) const noexcept {
+  bool const negative = *text == '-';
+  int const perfs = join(read_any_place(text + negative));
   return negative ? wrap_negate(perfs) : perfs;
+}
+
+int foot_label::join(film_place const& at) const noexcept {
+  return wrap_mul(wrap_add(wrap_mul(at.count, modulus_), at.frame), perfs_per_frame_);
 }
 
 char const* foot_353_label::samples_to_feet(LabelPoint* point, int perfs) {
@@ -125,16 +129,17 @@ char const* foot_353_label::samples_to_feet(LabelPoint* point, int perfs) {
 }
 
 int foot_353_label::feet_to_samples(char const* text) {
-  text = or_empty(text);
-  while (is_blank(*text)) ++text;
-  char label[65];  // a sign and 63 characters
-  text_writer out{label, *text == '-' ? sizeof label : sizeof label - 1};
-  out.put(text);
+  text = behind_blanks(text);
+  bool const negative = *text == '-';
+  char label[64];
+  text_writer out{label};
+  out.put(text + negative);
 
   char const last = out.length() > 0 ? label[out.length() - 1] : '\0';
   remainder_ = is_digit(last) ? last - '1' : 0;
-  auto const [negative, feet, frames] = read_parts(label);
-  int const perfs = three_perf.join({feet, frames, remainder_});
+  auto at = read_any_place(label);
+  at.perfs_left = remainder_;
+  int const perfs = three_perf.join(at);
   return negative ? wrap_negate(perfs) : perfs;
 }
 

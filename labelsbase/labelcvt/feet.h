@@ -87,6 +87,12 @@ class LABELSBASE_API foot_label : public variable_label {
   // Writes labels that do not fill their columns, and those of hosts' classes.
   LABELSBASE_LOCAL char const* write_any(LabelPoint* point, int perfs) const;
 
+  // Reads labels with a minus sign and those that do not fill their columns, without blanks in front.
+  [[nodiscard]] LABELSBASE_LOCAL int read_any(char const* text) const noexcept;
+
+  // Returns the perforations of feet and frames, by the fields that hosts' classes may set.
+  [[nodiscard]] LABELSBASE_LOCAL int join(labelsbase::film_place const& at) const noexcept;
+
   labelsbase::film_gauge gauge_;
 };
 

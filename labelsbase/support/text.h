@@ -144,19 +144,21 @@ class text_reader {
 
   // Reads digits, of which there is one or more, up to `width` of them. Returns their number, up to `limit`.
   [[nodiscard]] constexpr std::uint64_t magnitude(int width, std::uint64_t limit) noexcept {
-    auto const* const first = next_;
+    auto const* digits = next_;
     std::uint64_t value = 0;
-    for (unsigned digit = 0; (digit = digit_value(*next_)) < 10; ++next_) {
-      if (width != unlimited && next_ - first == width) break;
+    std::uint64_t digit = digit_value(*digits);
+    std::size_t length = 0;
+    do {
       value = value * 10 + digit;
-    }
-    constexpr int always_fit = 18;  // digits
-    if (next_ - first <= always_fit) return value;
+      digit = digit_value(digits[++length]);
+    } while (digit < 10 && (width == unlimited || length < static_cast<std::size_t>(width)));
+    next_ += length;
+    constexpr std::size_t always_fit = 18;  // digits
+    if (length <= always_fit) return value;
 
     // A number from 2^63 / 10 up stays too large with any further digit.
     value = 0;
-    for (auto const* digit = first; digit != next_; ++digit)
-      value = std::min(value, largest / 10 + 1) * 10 + digit_value(*digit);
+    for (; digits != next_; ++digits) value = std::min(value, largest / 10 + 1) * 10 + digit_value(*digits);
     return std::min(value, limit);
   }
 
