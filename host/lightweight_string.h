@@ -129,8 +129,8 @@ class LightweightString {
 
   // Sets several strings to one text, in one buffer that the first of them counts. The others borrow it: copies of
   // them change no count, and live only as long as the first string or a copy of it. Returns the characters of the
-  // first for writing, and behind them, each after capacity() characters, those of the others. Returns null, and
-  // all strings are empty, where the constructor would make an empty string.
+  // first for writing; those of the others follow, capacity() characters apart. Returns null,
+  // and all strings are empty, where the constructor would make an empty string.
   template <std::size_t count>
   static Char* set_in_one_buffer(LightweightString* const (&strings)[count], Char const* text,
                                  std::size_t length) noexcept {

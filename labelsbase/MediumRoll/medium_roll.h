@@ -109,7 +109,7 @@ class LABELSBASE_API MediumRoll : public labelsbase::host_allocated {
   void set_reelid(LightweightString<char> const& reel) noexcept;
 
   // Reads a stored roll. A text that does not begin like one changes nothing. An identifier that cannot be read
-  // becomes {0, 0}, and the reel is read all the same; a missing reel leaves the old one.
+  // becomes {0, 0}, but the reel is still read; a missing reel leaves the old one.
   //
   //   "REV" 1 "MediumRollId" identifier ("reelid" word)?   separated by any number of blanks and colons
   void fill_from_string(char const* text);

@@ -52,8 +52,8 @@ LABELSBASE_API int frames_plus_frames(int frames, int phase, int count, int* fra
 
 // Writes the label `count` frames after the one in `in_text`. The two texts may be one buffer. `phase_out`
 // receives the pulldown phase there, which is `phase` without a pulldown; `key_phase_out` the phase of the key,
-// which is `key_phase` for all labels but Label_keycode_3perf. If the new frame has no label, `phase_out` may be
-// written all the same.
+// which is `key_phase` for all labels but Label_keycode_3perf. If the new frame has no label, `phase_out` may
+// still be written.
 LABELSBASE_API int label_plus_frames(char* out_text, int* key_phase_out, int* phase_out, char* in_text,
                                      int key_phase, int phase, int count, label_type label, int drop, int per_key,
                                      unsigned char digits, transfer_type transfer, edit_type edit) noexcept;

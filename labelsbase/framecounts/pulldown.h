@@ -22,7 +22,7 @@
 //
 //   int video, film, phase;
 //   film_frames_to_video_frames(2, &video, 0, -1, Transfer_2_3_pulldown)       // 1
-//   video                                                                      // 3, behind the added frame
+//   video                                                                      // 3, after the added frame
 //   film_frames_to_video_frames(4, &video, 3, -1, Transfer_2_3_pulldown)       // 2, the phase ends the cycle
 //   video                                                                      // 4
 //   video_frames_to_film_frames(3, &film, 0, &phase, Transfer_2_3_pulldown)    // 1

@@ -17,7 +17,7 @@
 //   cvt.get_abs_string(&point, 4100)    // " 0064+01"
 //   cvt.get_abs_string(&point, -4)      // "-0000+01"
 //   cvt.get_abs_sample("64+1")          // 4100
-//   cvt.get_abs_sample("1+20")          // 144: frames are not held against the foot
+//   cvt.get_abs_sample("1+20")          // 144: frames are not checked against the foot
 //   cvt.get_abs_sample("nonsense")      // 0: every text reads as a number
 #pragma once
 
@@ -42,7 +42,7 @@ class LABELSBASE_API foot_label : public variable_label {
   char const* get_abs_string(LabelPoint* point, int perfs) override;
 
   // Returns the perforations of a label. Deliberate: every text reads as a number, any character separates, and
-  // frames are not held against the foot.
+  // frames are not checked against the foot.
   int get_abs_sample(char const* text) override;
   using variable_label::get_abs_sample;
 

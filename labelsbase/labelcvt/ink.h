@@ -46,6 +46,9 @@ class LABELSBASE_API ink_label : public prefix_label {
   using variable_label::get_abs_sample;
 
   void build_template() override;
+
+  // Gives the point the prefix and count of a whole label. Deliberate: a short text has zeros in front here too,
+  // so "AB12" sets the prefix "0000".
   void set_prefix(LabelPoint* point, char const* text) override;
 
   // Splits perforations into count and frame, rounding toward count 0.

@@ -57,7 +57,7 @@ class LABELSBASE_API label_cvt : public labelsbase::host_allocated {
   // Returns the characters of the prefix, or 0 for types without one.
   virtual int get_prefix_length() const = 0;
 
-  // Returns the digits of the count behind the prefix, or 0 for types without one.
+  // Returns the digits of the count after the prefix, or 0 for types without one.
   virtual int get_count_length() const = 0;
 
   // Returns the count unit: frames per second for timecode, per foot for feet, per key for key numbers.
@@ -131,7 +131,8 @@ class LABELSBASE_API label_cvt : public labelsbase::host_allocated {
   // Returns the prefix that the point's labels begin with; "" for types without one.
   virtual char const* get_prefix(LabelPoint const* point) const = 0;
 
-  // Takes the point's prefix from a label's text, or from its beginning.
+  // Sets the point's prefix from a label's text. Key numbers accept the prefix alone, ink numbers only a whole
+  // label.
   virtual void set_prefix(LabelPoint* point, char const* text) = 0;
 
   // Whether two samples (fields) make one timecode frame.

@@ -8,7 +8,8 @@
 //   (point + LabelPoint{pal_label_t, 1}) == invalid_label_point   // true: two types have no sum
 //
 //   field             holds
-//   prefix            up to 20 characters: the film prefix of key numbers and ink numbers
+//   prefix            up to 20 characters: the film prefix of key numbers and ink numbers, and after it the count
+//                     of the label that it was set from, if any
 //   text              up to 22 characters: the last text that was written
 //   sample            the position: frames, fields or perforations, by the type
 //   converter         the type's converter, not owned
@@ -31,7 +32,7 @@ class LABELSBASE_API LabelPoint {
   static constexpr std::size_t prefix_length = 20;  // characters, without the terminator
   static constexpr std::size_t text_length = 22;    // characters, without the terminator
 
-  // Film prefix of key numbers and ink numbers; empty for other types.
+  // Film prefix of key numbers and ink numbers, perhaps with a count after it; empty for other types.
   char prefix[prefix_length + 1] = {};
 
   // The label's text after the last conversion into this point.
@@ -87,8 +88,8 @@ class LABELSBASE_API LabelPoint {
   // Splits a timecode into hours, minutes, seconds and frames, and returns the frames. For other types all are 0.
   int get_hmsf(short& h, short& m, short& s, short& f);
 
-  // Whether both have the same type and sample and, for types with a prefix, the same prefix. Templates and texts
-  // are not compared.
+  // Whether both have the same type and sample and, for types with a prefix, the same prefix field. Templates and
+  // texts are not compared. Deliberate: "KJ1234560123", set from a whole label, does not equal "KJ123456".
   [[nodiscard]] bool operator==(LabelPoint const& other) const;
 
   // Returns the sum of two points of one type, moved into its range, without a prefix. Points of two types return
@@ -111,6 +112,7 @@ class LABELSBASE_API LabelPoint {
   void constrain_positive();
 
   // Takes the sign column off the template of a point at a sample of 0 or more, so that its text has none.
+  // Deliberate: feet at 3 perforations a frame keep theirs.
   void removePadding();
 
  private:

@@ -108,7 +108,8 @@ enum UserLabelType : std::int32_t {
 // types are returned as they are.
 [[nodiscard]] LABELSBASE_API label_t label_t_to_duration_label_t(label_t type);
 
-// Returns the label type of a host's timecode standard. Unknown rates count as 30 frames.
+// Returns the label type of a host's timecode standard. Unknown rates count as 30 frames. Deliberate: only
+// timecode of 30 frames has a drop-frame type; at any other rate, drop-frame changes nothing.
 [[nodiscard]] LABELSBASE_API label_t TvStd_to_label_type(TCInf const& standard) noexcept;
 
 // Returns the timecode standard of a type. Types without a standard return {FrameRate_unknown, false}.

@@ -57,20 +57,20 @@ class LABELSBASE_API prefix_label : public variable_label {
   // written without asking. The registry declares it of the converters that it makes.
   void settle_arithmetic() noexcept;
 
-  // Whether the label of a sample fills its columns, and nothing but this converter has a say in it.
+  // Whether the label of a sample fills its columns, and its text depends on nothing but this converter.
   [[nodiscard]] bool fills_columns(LabelPoint const* point, int perfs) const noexcept {
     return static_cast<unsigned>(perfs) < column_perfs_ && point && point->converter == this;
   }
 
-  // Reads a label whose parts fill their columns, as nearly every text has them. Returns false for any other,
-  // which may be a label all the same.
+  // Whether a text of this length can be a label whose parts fill their columns, as nearly every label is. Other
+  // texts may still be labels.
   //
   //   prefix digit{count length} non-digit dd
   [[nodiscard]] bool has_columns(std::size_t length) const noexcept {
     return column_perfs_ != 0 && length == std::size_t{prefix_length_} + count_length_ + 3;
   }
 
-  // Returns the text of a count and a frame within it, behind the prefix of the point's converter. A `perf_digit`
+  // Returns the text of a count and a frame within it, after the prefix of the point's converter. A `perf_digit`
   // other than 0 follows after a ".". Returns "NEGATIVE" for a count below zero. A count above the largest starts
   // again, once.
   char const* write_label(LabelPoint* point, int count, int frame, char separator, int perf_digit = 0) const;

@@ -79,7 +79,7 @@ class LABELSBASE_API timecode_label : public variable_label {
   // Returns packed BCD timecode, with bit 6 set for drop-frame; 0 for negative and special samples.
   unsigned get_abs_smpte_string(LabelPoint* point, int sample) override;
 
-  // Reads such a text. Deliberate: any character separates the frames, and no field is held against its range.
+  // Reads such a text. Deliberate: any character separates the frames, and no field is checked against its range.
   // Returns the invalid sample if the text cannot be read, or 100000000 if that text begins with "-".
   //
   //   "-"? number ":" number ":" number any number

@@ -87,7 +87,8 @@ class LABELSBASE_API EditLabel : public Label {
   [[nodiscard]] bool equivalentPlayoutLabelMediumRolls(EditLabel const& other) const noexcept;
 
   // Returns whether either medium can replace the other as the generation before: neither is of the first
-  // generation, and both are sources of 24 frames, of 25 and 50, or of 30 and 60. Their 1001 rates count alike.
+  // generation, and both are sources of 24 frames, of 25 and 50, or of 30 and 60. A 1001 rate counts as its whole
+  // rate.
   [[nodiscard]] bool equivalentPreviousGenerationMediumRolls(EditLabel const& other) const noexcept;
 
  private:

@@ -78,7 +78,7 @@ class LABELSBASE_API Label {
   // Sets the type with its template and natural pitch. Everything else stays.
   void set_type(label_t type);
 
-  // Sets the prefix of the start, if the type has one.
+  // Sets the prefix of the start, if the type has one, as label_cvt::set_prefix does.
   void set_prefix(char const* text);
 
   // Returns the sample of the start.
@@ -132,8 +132,8 @@ class LABELSBASE_API Label {
   // Returns the samples of packed BCD timecode. `drop` receives the drop-frame flag.
   [[nodiscard]] int samples_from_SMPTE(unsigned packed, bool& drop) const;
 
-  // Returns whether the starts and the ends are equal. Deliberate: this start is compared as it is with the other,
-  // normalised start; neither pitch nor bounds are compared.
+  // Returns whether the starts and the ends are equal, prefix fields included (see LabelPoint). Deliberate: this
+  // start is compared as it is with the other, normalised start; neither pitch nor bounds are compared.
   [[nodiscard]] bool operator==(Label const& other) const;
 
   // Returns the seconds of a sample, or 1e99 for invalid_sample.

@@ -72,7 +72,7 @@ struct LABELSBASE_API VagueUIFLabelDef {
 // The lookups below return the stated value for uif_none and for a number that is not a choice.
 //
 //   uifLabel_to_config_str(uif_KeyKode)   // "KeyKode"
-//   config_str_to_uifLabel("scene")       // uif_scene, which stands before uif_scene_2
+//   config_str_to_uifLabel("scene")       // uif_scene, which comes before uif_scene_2
 //   uifLabelText(uif_KeyKode)             // 12841
 //   uifLabelMedroll(uif_KeyKode)          // {Medium_film, Gen_any}
 
