@@ -51,7 +51,7 @@ pulldown chosen_pulldown(conversion_arguments const& given) {
   if (has_letters && phase.size() == 1 && !is_digit(phase.front())) {
     auto const found = labelconvert::frames_by_phase.find(phase);
     if (found == std::string_view::npos)
-      refuse("--phase", phase, "expected A, B, C or D, or a number from 0 to 4 as 'labels cadence' has it");
+      refuse("--phase", phase, "expected A, B, C or D, or a number from 0 to 4 as 'labels cadence' takes it");
     phase = std::to_string(found);
   }
   return find_pulldown({given.transfer, phase});
@@ -80,7 +80,7 @@ void add_conversion(CLI::App& command, conversion_arguments& given) {
   add_option(
       command, "--phase", "PHASE", given.phase,
       "Where the pulldown stands at the sync point. For 2:3 the film frame of the cadence, A, B, C or D [A]; or a"
-      " number as 'labels cadence' has it [0 for 24:25]");
+      " number as 'labels cadence' takes it [0 for 24:25]");
   add_option(command, "--round", "down|near|up [near]", given.round,
              "Which label to write for an instant between two; halfway, near is up");
   add_flag(command, "--exact", given.exact, "Refuse labels that fall between two");

@@ -77,10 +77,10 @@ problem read_label(label_t type, std::string_view text, label_parts& out) {
 }
 
 void add_reading(CLI::App& command, reading_arguments& given) {
-  add_option(
-      command, "--illegal", "refuse|nearest|as-is [refuse]", given.illegal,
-      "What becomes of a label that does not exist: refused with its reason, read as the nearest valid label, or"
-      " read as the library does, 99:99:99:99 too");
+  add_option(command, "--illegal", "refuse|nearest|as-is [refuse]", given.illegal,
+             "What to do with a label that does not exist: refuse it with its reason, read the nearest valid "
+             "label, or read it"
+             " as the library does, even 99:99:99:99");
   add_option(command, "--entry", "full|short [full]", given.entry,
              "short: labels as editing systems take them, 1:00:00, 10. or 115; +15 and -1:00 count from --at");
   add_option(command, "--at", "LABEL", given.at, "With --entry short, the label that sums count from");

@@ -86,7 +86,7 @@ struct refusal {
   std::string nearest{};
 
   label_t type = null_label_t;  // the type that was asked for
-  field next = field::whole;    // the field behind the separator, for the reasons `separator` and
+  field next = field::whole;    // the field after the separator, for the reasons `separator` and
                                 // `drop_frame_separator`
   int number = 0;               // what `why` says of it
 };

@@ -25,8 +25,8 @@ enum class shared {
 // Where an instant lies between two frames.
 enum class rounding {
   down,  // to the frame before
-  near,  // to the nearest one; halfway, to the one behind
-  up,    // to the frame behind
+  near,  // to the nearest one; halfway, to the one after
+  up,    // to the frame after
 };
 
 // One instant in both tracks, as samples of their types.

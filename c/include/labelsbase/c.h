@@ -80,7 +80,7 @@ enum {
 typedef struct labels_fault {
   char message[160];               // "seconds run from 00 to 59"
   char nearest[LABELS_TEXT_SIZE];  // the nearest label, or name in labels_find; empty if nothing is near
-  const char* field;               // of labels_read: "hours", "prefix" ..., for ever valid; otherwise ""
+  const char* field;               // of labels_read: "hours", "prefix" ..., always valid; otherwise ""
   size_t position;                 // of labels_read: bytes from the start of the text to the fault; otherwise 0
   int32_t reason;                  // of labels_read: LABELS_REASON_...; otherwise -1
 } labels_fault;
@@ -91,7 +91,7 @@ typedef struct labels_track {
   int32_t rate;  // a code: labels_rate_facts
 } labels_track;
 
-// A name that people use for a track. The texts are for ever valid.
+// A name that people use for a track. The texts are always valid.
 typedef struct labels_name {
   const char* names;    // separated by blanks, the one to show first: "23.976 23.98"
   const char* meaning;  // "timecode of 24 frames, slowed by 1000/1001"
@@ -108,7 +108,7 @@ enum {
   LABELS_FAMILY_FILM_FRAMES = 7
 };
 
-// What a label type is. The texts are for ever valid. Numbers that do not apply are 0.
+// What a label type is. The texts are always valid. Numbers that do not apply are 0.
 typedef struct labels_type {
   const char* name;           // "pal_label"; "" if it has none
   const char* exchange_name;  // in edit decision lists: "25f"; "" if it has none
@@ -180,7 +180,7 @@ typedef struct labels_conversion {
 typedef struct labels_answer {
   int32_t sample;  // rounded as asked
   int32_t before;  // the frame before the instant; `sample` if a frame begins at it
-  int32_t after;   // the frame behind the instant; `sample` if a frame begins at it
+  int32_t after;   // the frame after the instant; `sample` if a frame begins at it
 } labels_answer;
 
 // --- the library ---
@@ -207,7 +207,7 @@ labels_status labels_find(const char* name, size_t length, labels_track* track, 
 // Returns how many rows of names there are.
 size_t labels_name_count(void);
 
-// Writes the row of names at `index`, from 0, in the order in which to show them. Returns LABELS_UNKNOWN behind
+// Writes the row of names at `index`, from 0, in the order in which to show them. Returns LABELS_UNKNOWN after
 // the last.
 labels_status labels_name_at(size_t index, labels_name* name, size_t name_size);
 
