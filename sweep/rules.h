@@ -18,6 +18,7 @@
 //   feet             any                           the first perforation of its frame; one round less from 100000
 //                                                  feet on
 //     3-perf         any                           itself; one round less above 100000 feet
+//                    the last two, either side     below zero: the two perforations before foot 0 wrap the count
 //   film frames      any                           itself
 //   none             any                           invalid
 //
@@ -116,6 +117,7 @@ struct three_perf_feet_rule {
     if (labelsbase::is_special_sample(sample)) return 0;
     if (sample == INT_MIN) return sample;
     wide const magnitude = sample < 0 ? -wide{sample} : sample;
+    if (magnitude + 2 > INT_MAX) return narrow(-magnitude);
     bool const wraps = magnitude + 2 >= (feet_rule::round + 1) * foot;
     wide const within = wraps ? magnitude - feet_rule::round * foot : magnitude;
     return narrow(sample < 0 ? -within : within);

@@ -104,11 +104,9 @@ class film_gauge {
 
   [[nodiscard]] constexpr film_place split_within_frames(int perfs) const noexcept {
     int const last_perf = perfs_per_frame() - 1;
-    auto const shifted = static_cast<unsigned>(perfs) + static_cast<unsigned>(last_perf);  // key 0 begins at 0
-    int const count = perfs >= -last_perf ? static_cast<int>(per_count_.quotient_of_magnitude(shifted))
-                                          : -1 - static_cast<int>(per_count_.quotient_of_magnitude(~shifted));
-    int const in_count =
-        static_cast<int>(shifted - static_cast<unsigned>(count) * static_cast<unsigned>(perfs_per_count_));
+    int const shifted = wrap_add(perfs, last_perf);  // key 0 begins at 0
+    int const count = shifted >= 0 ? per_count_.quotient(shifted) : -1 - per_count_.quotient(-1 - shifted);
+    int const in_count = shifted - count * perfs_per_count_;
     int const frame = static_cast<int>(per_frame_.quotient_of_magnitude(static_cast<unsigned>(in_count)));
     return {count, frame, last_perf - (in_count - frame * perfs_per_frame())};
   }
