@@ -10,9 +10,8 @@
 
 namespace labelcheck {
 
-// As read, for a type of film.
-[[nodiscard]] std::variant<reading, refusal> read_film(labelsbase::label_facts const& facts,
-                                                       std::string_view text);
+// As read, for a type of film: explains what is wrong with a text that the quick parser has refused.
+[[nodiscard]] std::variant<reading, refusal> explain_film(film_form form, std::string_view text);
 
 // Reads as much as people would, and moves each field to the nearest that exists. Returns an empty text if nothing
 // is legible.

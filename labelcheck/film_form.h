@@ -48,6 +48,11 @@ class film_form {
     return (has_frames() ? 3U : 0U) + (names_perforation() ? 2U : 0U);
   }
 
+  // Returns the prefix of a label, a part of its text.
+  [[nodiscard]] constexpr std::string_view prefix_of(std::string_view label) const noexcept {
+    return {label.data(), prefix_length()};
+  }
+
   // Returns the largest key, ink number, feet or film frames. Feet run ten times as far as their digits, and one
   // foot further at 3 perforations a frame.
   [[nodiscard]] constexpr std::int64_t last_count() const noexcept {

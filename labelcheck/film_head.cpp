@@ -1,11 +1,37 @@
 #include "labelcheck/film_head.h"
 
+#include <algorithm>
+
 #include "labelcheck/text.h"
+#include "labelsbase/characters.h"
 
 namespace labelcheck {
 namespace {
 
 bool all_digits(std::string_view text) noexcept { return digits_of(text).size() == text.size(); }
+
+bool has_key_characters(film_form const& form, explaining_parser& in, std::string_view head) noexcept {
+  bool const may_have_dashes = head.size() == form.head_length();
+  auto const is_wrong = [&](char c) { return !labelsbase::is_printable(c) || (c == '-' && !may_have_dashes); };
+  auto const found = std::ranges::find_if(head, is_wrong);
+  if (found == head.end()) return true;
+
+  auto const position = static_cast<std::size_t>(found - head.begin());
+  bool const breaks_up = *found == '-' || labelsbase::is_blank(*found);
+  return in.refuse_at(position, position < form.prefix_length() ? field::prefix : field::count,
+                      breaks_up ? reason::blank_or_dash : reason::unprintable);
+}
+
+bool refuse_lengths(film_form const& form, explaining_parser& in, std::string_view head) noexcept {
+  auto const [prefix, count] = split(form, head);
+  auto const refuse_length = [&in](field wrong, std::size_t position, std::string_view found) {
+    return in.refuse_at(position, wrong, reason::length, static_cast<int>(found.size()));
+  };
+  if (prefix.size() != form.prefix_length())
+    return refuse_length(field::prefix, std::min(prefix.size(), form.prefix_length()), prefix);
+  auto const digits = static_cast<std::size_t>(form.digits());
+  return refuse_length(field::count, prefix.size() + std::min(count.size(), digits), count);
+}
 
 }  // namespace
 
@@ -29,6 +55,14 @@ film_head split(film_form const& form, std::string_view head) noexcept {
   auto count = head.size();
   while (count > 0 && head.size() - count < digits && labelsbase::is_digit(head[count - 1])) --count;
   return at(count);
+}
+
+bool has_form_of_head(film_form const& form, explaining_parser& in) noexcept {
+  auto const text = in.rest();
+  auto const head = head_of(form, text);
+  if (!has_key_characters(form, in, head)) return false;
+  bool const lacks_separator = head.size() == text.size() && head.size() == form.head_length() + 2;
+  return head.size() == form.head_length() || lacks_separator || refuse_lengths(form, in, head);
 }
 
 }  // namespace labelcheck

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "labelcheck/film_form.h"
+#include "labelcheck/parser.h"
 
 namespace labelcheck {
 
@@ -22,5 +23,10 @@ struct film_head {
 //   split(F35, "KJ123456123")     // "KJ123456", "123"
 //   split(F35, "KJ100123")        // "KJ10", "0123"
 [[nodiscard]] film_head split(film_form const& form, std::string_view head) noexcept;
+
+// Whether a label begins with printable characters, as many as prefix and count have, and no blanks or dashes
+// break them up. A prefix may contain dashes if prefix and count have their length. Otherwise the parser keeps
+// what is wrong.
+[[nodiscard]] bool has_form_of_head(film_form const& form, explaining_parser& in) noexcept;
 
 }  // namespace labelcheck

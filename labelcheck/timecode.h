@@ -6,7 +6,9 @@
 #include <variant>
 
 #include "labelcheck/read.h"
+#include "labelsbase/labelcvt/label_cvt.h"
 #include "labelsbase/labelcvt/label_facts.h"
+#include "labelsbase/labelcvt/registry.h"
 
 namespace labelcheck {
 
@@ -21,9 +23,17 @@ struct timecode_form {
   [[nodiscard]] constexpr int last_frame() const noexcept { return frames_per_second - 1; }
 };
 
-// As read, for a type of timecode.
-[[nodiscard]] std::variant<reading, refusal> read_timecode(labelsbase::label_facts const& facts,
-                                                           std::string_view text);
+// Returns the form of a type. Asks the library's converter how the host's setting has 50 and 60 frame timecode
+// count: only it knows.
+[[nodiscard]] inline timecode_form form_of(labelsbase::label_facts const& facts) {
+  auto const& timecode = facts.timecode;
+  return {timecode,
+          timecode.setting ? get_static_label_cvt(facts.type)->get_modulus() : timecode.frames_per_second};
+}
+
+// As read, for a type of timecode: explains what is wrong with a text that the quick parser has refused.
+[[nodiscard]] std::variant<reading, refusal> explain_timecode(labelsbase::label_facts const& facts,
+                                                              std::string_view text);
 
 // Reads as much as people would, and moves each number to the nearest that exists. Returns an empty text if
 // nothing is legible.
