@@ -118,13 +118,14 @@ char const* foot_353_label::samples_to_feet(LabelPoint* point, int perfs) {
   if (!point) return "";
   auto const at = three_perf.split(wrap_magnitude(perfs));
   int const limit = feet_limit();
-  feet_ = at.count > limit ? at.count - limit : at.count;  // deliberate: only feet above the limit
+  int const feet = at.count > limit ? at.count - limit : at.count;  // deliberate: only feet above the limit
+  feet_ = feet;
   frame_ = at.frame;
   remainder_ = at.perfs_left;
 
   text_writer out{point->text};
-  out.put(perfs < 0 ? '-' : ' ').number(feet_, feet_digits_).put('+').number(frame_, 2);
-  out.put('.').number(remainder_ + 1);
+  out.put(perfs < 0 ? '-' : ' ').number(feet, feet_digits_).put('+').number(at.frame, 2);
+  out.put('.').number(at.perfs_left + 1);
   return point->text;
 }
 
@@ -136,9 +137,9 @@ int foot_353_label::feet_to_samples(char const* text) {
   out.put(text + negative);
 
   char const last = out.length() > 0 ? label[out.length() - 1] : '\0';
-  remainder_ = is_digit(last) ? last - '1' : 0;
   auto at = read_any_place(label);
-  at.perfs_left = remainder_;
+  at.perfs_left = is_digit(last) ? last - '1' : 0;
+  remainder_ = at.perfs_left;
   int const perfs = three_perf.join(at);
   return negative ? wrap_negate(perfs) : perfs;
 }

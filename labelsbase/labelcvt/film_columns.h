@@ -33,25 +33,26 @@ inline char* put_count_and_frame(char* out, int count, int digits, char separato
   return *text && !is_digit(*text) && read_pair(text + 1, frame);
 }
 
-// Prefixes of up to a block are looked at and copied all at once.
-using prefix_block = std::uint64_t;
-
-// By the length of a prefix: the lowest bit of each character behind it.
+// By the length of a prefix: all bits of each character behind it.
 inline constexpr auto behind_prefix = [] {
   std::array<prefix_block, sizeof(prefix_block) + 1> blocks{};
   for (std::size_t length = 0; length < blocks.size(); ++length) {
     std::array<unsigned char, sizeof(prefix_block)> characters{};
-    for (std::size_t i = length; i < characters.size(); ++i) characters[i] = 1;
+    for (std::size_t i = length; i < characters.size(); ++i) characters[i] = 0xFF;
     blocks[length] = std::bit_cast<prefix_block>(characters);
   }
   return blocks;
 }();
 
-// Whether a prefix field holds `length` characters or more, up to a block.
-[[nodiscard]] inline bool fills_block(char const* prefix, std::size_t length) noexcept {
+// Returns the first characters of a prefix field.
+[[nodiscard]] inline prefix_block block_of(char const* prefix) noexcept {
   prefix_block characters;
   std::memcpy(&characters, prefix, sizeof characters);
-  characters |= behind_prefix[length];
+  return characters;
+}
+
+// Whether no character of a block is a terminator.
+[[nodiscard]] constexpr bool is_filled(prefix_block characters) noexcept {
   return ((characters - 0x0101'0101'0101'0101) & ~characters & 0x8080'8080'8080'8080) == 0;
 }
 
@@ -60,16 +61,13 @@ inline constexpr auto behind_prefix = [] {
 inline char const* prefix_label::write_columns(LabelPoint* point, int count, int frame, int perf_digit) const {
   auto const prefix_length = prefix_length_;
   auto const count_length = count_length_;
-  char const* prefix = point->prefix;
-  if (!labelsbase::fills_block(prefix, prefix_length)) {
-    prefix = current_prefix_;
-    if (!labelsbase::fills_block(prefix, prefix_length))
-      return write_label(point, count, frame, separator_, perf_digit);
+  auto const behind = labelsbase::behind_prefix[prefix_length];
+  auto characters = labelsbase::block_of(point->prefix) | behind;
+  if (!labelsbase::is_filled(characters)) {
+    characters = remembered_block().load(std::memory_order_relaxed) | behind;
+    if (!labelsbase::is_filled(characters)) return write_label(point, count, frame, separator_, perf_digit);
   }
-  labelsbase::prefix_block characters;
-  std::memcpy(&characters, prefix, sizeof characters);
-  std::memcpy(current_prefix_, &characters, sizeof characters);
-  current_prefix_[prefix_length] = '\0';
+  remembered_block().store(characters ^ behind, std::memory_order_relaxed);
   std::memcpy(point->text, &characters, sizeof characters);
 
   char* out = labelsbase::put_count_and_frame(point->text + prefix_length, count, static_cast<int>(count_length),

@@ -70,6 +70,11 @@ char const* ink_label::get_abs_string(LabelPoint* point, int perfs) {
 
 [[gnu::noinline]] char const* ink_label::write_any(LabelPoint* point, int perfs) {
   if (is_special_sample(perfs)) return get_invalid_string(point, perfs);
+  if (is_settled()) {
+    auto const at = gauge_.split(perfs);
+    remember(at);
+    return write_label(point, at.count, at.frame, separator_);
+  }
   get_counts(perfs);
   return write_label(point, count_, frame_, separator_);
 }

@@ -48,9 +48,10 @@ void keycode_label::get_counts(int perfs) { remember(gauge_.split(perfs)); }
 
 int keycode_label::get_perf_offset(int perfs) { return perfs % gauge_.perfs_per_count(); }
 
-int keycode_label::get_perfs() {
-  bool const has_frame = frame_ >= 0 && frame_ < gauge_.frames_per_count();
-  return has_frame ? gauge_.join({key_, frame_, perfs_left_}) : invalid_sample;
+int keycode_label::get_perfs() { return perfs_at({key_, frame_, perfs_left_}); }
+
+int keycode_label::perfs_at(film_place const& at) const noexcept {
+  return at.frame >= 0 && at.frame < gauge_.frames_per_count() ? gauge_.join(at) : invalid_sample;
 }
 
 char const* keycode_label::get_abs_string(LabelPoint* point, int perfs) {
@@ -64,8 +65,14 @@ char const* keycode_label::get_abs_string(LabelPoint* point, int perfs) {
 [[gnu::noinline]] char const* keycode_label::write_any(LabelPoint* point, int perfs, char separator,
                                                        bool names_perforation) {
   if (is_special_sample(perfs)) return get_invalid_string(point, perfs);
-  get_counts(perfs);
-  return write_label(point, key_, frame_, separator, names_perforation ? perfs_left_ + 1 : 0);
+  auto at = gauge_.split(perfs);
+  if (is_settled()) {
+    remember(at);
+  } else {
+    get_counts(perfs);
+    at = {key_, frame_, perfs_left_};
+  }
+  return write_label(point, at.count, at.frame, separator, names_perforation ? at.perfs_left + 1 : 0);
 }
 
 char const* keycode_label::get_abs_perfs_string(LabelPoint* point, int perfs) {
@@ -76,21 +83,21 @@ char const* keycode_label::get_abs_perfs_string(LabelPoint* point, int perfs) {
 
 int keycode_label::get_abs_sample(char const* text) {
   text = or_empty(text);
-  return read_label(text, std::strlen(text));
+  return read_label(text, std::strlen(text), perfs_left_);
 }
 
-int keycode_label::read_label(char const* text, std::size_t length) {
+int keycode_label::read_label(char const* text, std::size_t length, int perfs_left) {
   int key = 0;
   int frame = 0;
   if (!has_columns(length) ||
       !read_count_and_frame(text + prefix_length_, static_cast<int>(count_length_), key, frame))
-    return read_any(text, length);
+    return read_any(text, length, perfs_left);
   key_ = key;
   frame_ = frame;
-  return keycode_label::get_perfs();
+  return perfs_at({key, frame, perfs_left});
 }
 
-[[gnu::noinline]] int keycode_label::read_any(char const* text, std::size_t length) {
+[[gnu::noinline]] int keycode_label::read_any(char const* text, std::size_t length, int perfs_left) {
   if (length < prefix_length_) return invalid_sample;
   int const key = read_count(text, length, '_');
   if (key < 0) return invalid_sample;
@@ -106,7 +113,7 @@ int keycode_label::read_label(char const* text, std::size_t length) {
   }
   key_ = key;
   frame_ = frame;
-  return get_perfs();
+  return is_settled() ? perfs_at({key, frame, perfs_left}) : get_perfs();
 }
 
 keycode_353::keycode_353(unsigned digits) : keycode_label{keycode_353_label_t, digits} {
@@ -134,8 +141,9 @@ int keycode_353::get_keep_sample(char const* text) {
   text = or_empty(text);
   auto const length = strnlen(text, 63);
   if (length < 2 || !is_digit(text[length - 1])) return invalid_sample;
-  perfs_left_ = text[length - 1] - '1';
-  return read_label(text, length - 2);
+  int const perfs_left = text[length - 1] - '1';
+  perfs_left_ = perfs_left;
+  return read_label(text, length - 2, perfs_left);
 }
 
 // Constructors and destructors are defined here, so that the classes' tables of virtual functions are the

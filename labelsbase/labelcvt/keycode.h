@@ -92,12 +92,15 @@ class LABELSBASE_API keycode_label : public prefix_label {
  private:
   friend class keycode_353;
 
-  // Reads the first `length` characters of a label.
-  [[nodiscard]] LABELSBASE_LOCAL int read_label(char const* text, std::size_t length);
+  // Reads the first `length` characters of a label, whose perforation within the frame is known already.
+  [[nodiscard]] LABELSBASE_LOCAL int read_label(char const* text, std::size_t length, int perfs_left);
+
+  // Returns the perforation of a place, or the invalid sample for a frame that the key does not have.
+  [[nodiscard]] LABELSBASE_LOCAL int perfs_at(labelsbase::film_place const& at) const noexcept;
 
   // Write and read labels that do not fill their columns, and those of hosts' classes.
   LABELSBASE_LOCAL char const* write_any(LabelPoint* point, int perfs, char separator, bool names_perforation);
-  [[nodiscard]] LABELSBASE_LOCAL int read_any(char const* text, std::size_t length);
+  [[nodiscard]] LABELSBASE_LOCAL int read_any(char const* text, std::size_t length, int perfs_left);
 
   bool reports_perfs_;
 };

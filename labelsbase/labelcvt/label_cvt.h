@@ -32,8 +32,10 @@ class timecode_label;
 // Returned texts live in the point's buffer or in constant storage, until the next conversion into that point. A
 // null text reads as an empty one. A null point counts as sample 0 and has no buffer: its text is "".
 //
-// Converters keep scratch state between calls: use one from one thread at a time. The order of the virtual
-// operations is part of the interface.
+// Several threads may convert through one converter of get_static_label_cvt or make_any_label_cvt at once, each
+// with a point of its own; key numbers and ink numbers, if each point has a whole prefix of its own. A converter
+// that a host constructs belongs to one thread at a time. docs/threads.md lists every operation. The order of the
+// virtual operations is part of the interface.
 class LABELSBASE_API label_cvt : public labelsbase::host_allocated {
  public:
   // Number of live converters. The shared invalid converter, which the compiler builds, is the first.

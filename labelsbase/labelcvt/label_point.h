@@ -25,8 +25,8 @@
 
 class label_cvt;
 
-// A sample, the converter that writes its text, and the buffer for that text. A plain value: the fields are open,
-// since hosts' own converters read and write them.
+// A sample, the converter that writes its text, and the buffer for that text. A plain value, for one thread at a
+// time: the fields are open, since hosts' own converters read and write them.
 class LABELSBASE_API LabelPoint {
  public:
   static constexpr std::size_t prefix_length = 20;  // characters, without the terminator

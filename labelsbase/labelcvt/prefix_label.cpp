@@ -13,8 +13,10 @@ using namespace labelsbase;
 
 namespace {
 
+using prefix_field = char[prefix_label::longest_prefix + 1];
+
 // Copies the first `length` characters of a text that may lack its terminator. Longer prefixes are cut.
-void copy_prefix(char (&to)[prefix_label::longest_prefix + 1], char const* text, std::size_t length) noexcept {
+void copy_prefix(prefix_field& to, char const* text, std::size_t length) noexcept {
   auto const size = strnlen(text, std::min(length, sizeof to - 1));
   std::memmove(to, text, size);
   to[size] = '\0';
@@ -76,12 +78,29 @@ char const* prefix_label::get_dummy_prefix() { return dummy_prefix_; }
 char const* prefix_label::get_prefix(LabelPoint const* point) const {
   if (!has_prefix()) return "";
   if (point && has_whole_prefix(point->prefix, prefix_length_)) {
-    std::memcpy(current_prefix_, point->prefix, prefix_length_);
-    current_prefix_[prefix_length_] = '\0';
-  } else if (std::strlen(current_prefix_) < prefix_length_) {
-    copy_prefix(current_prefix_, dummy_prefix_, prefix_length_);
+    remember_prefix(point->prefix);
+  } else if (!remembers_prefix()) {
+    remember_prefix(dummy_prefix_);
   }
   return current_prefix_;
+}
+
+// Each read and each write is whole, and costs a plain move. Which thread's prefix remains is left open.
+void prefix_label::remember_prefix(char const* text) const noexcept {
+  prefix_field fresh{};
+  copy_prefix(fresh, text, prefix_length_);
+  remembered_block().store(block_of(fresh), std::memory_order_relaxed);
+  for (auto i = sizeof(prefix_block); i < sizeof fresh; ++i)
+    std::atomic_ref{current_prefix_[i]}.store(fresh[i], std::memory_order_relaxed);
+}
+
+bool prefix_label::remembers_prefix() const noexcept {
+  prefix_field remembered;
+  auto const block = remembered_block().load(std::memory_order_relaxed);
+  std::memcpy(remembered, &block, sizeof block);
+  for (auto i = sizeof block; i < sizeof remembered; ++i)
+    remembered[i] = std::atomic_ref{current_prefix_[i]}.load(std::memory_order_relaxed);
+  return std::strlen(remembered) >= prefix_length_;
 }
 
 void prefix_label::set_prefix(LabelPoint* point, char const* text) {
@@ -89,9 +108,9 @@ void prefix_label::set_prefix(LabelPoint* point, char const* text) {
   text = or_empty(text);
   if (std::strlen(text) >= prefix_length_)
     copy_prefix(point->prefix, text, total_length_);
-  else if (std::strlen(current_prefix_) < prefix_length_)
+  else if (!remembers_prefix())
     copy_prefix(point->prefix, dummy_prefix_, total_length_);
-  copy_prefix(current_prefix_, point->prefix, prefix_length_);
+  remember_prefix(point->prefix);
 }
 
 void prefix_label::build_template() {
@@ -125,7 +144,9 @@ char const* prefix_label::write_label(LabelPoint* point, int count, int frame, c
 
   constexpr int longest = 19;
   auto const& own = *point->converter;
-  char const* prefix = or_empty(own.get_prefix(point));
+  bool const has_own_prefix = is_settled() && &own == this && has_whole_prefix(point->prefix, prefix_length_);
+  if (has_own_prefix) remember_prefix(point->prefix);
+  char const* const prefix = has_own_prefix ? point->prefix : or_empty(own.get_prefix(point));
   auto const prefix_size =
       strnlen(prefix, static_cast<std::size_t>(std::clamp(own.get_prefix_length(), 0, longest)));
   std::memcpy(point->text, prefix, prefix_size);

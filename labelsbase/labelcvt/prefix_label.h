@@ -7,9 +7,20 @@
 //   frame       2 digits, within the count        07                    07
 #pragma once
 
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+
 #include "labelsbase/counts/film_gauge.h"
 #include "labelsbase/export.h"
 #include "labelsbase/labelcvt/label_cvt.h"
+
+namespace labelsbase {
+
+// Prefixes of up to a block are looked at and copied all at once.
+using prefix_block = std::uint64_t;
+
+}  // namespace labelsbase
 
 // A label of prefix, count, separator and frame within the count, for example "KJ1234560123+07".
 //
@@ -45,7 +56,8 @@ class LABELSBASE_API prefix_label : public variable_label {
   // Returns the prefix for labels that have none: "XX000000" for key numbers, "XXXX" for ink numbers.
   char const* get_dummy_prefix() override;
 
-  // Returns the point's prefix if it has a whole one, else the remembered prefix, else the dummy prefix.
+  // Returns the point's prefix if it has a whole one, else the remembered prefix, else the dummy prefix. The text
+  // lives in the converter until the next conversion, so no other thread may use the converter meanwhile.
   char const* get_prefix(LabelPoint const* point) const override;
 
   // Gives the point the prefix and count of `text`, which is a label or its beginning. A text shorter than the
@@ -57,6 +69,10 @@ class LABELSBASE_API prefix_label : public variable_label {
   // written without asking. The registry declares it of the converters that it makes.
   void settle_arithmetic() noexcept;
 
+  // Whether no class overrides anything. Labels are then made without what the converter remembers, since other
+  // threads may write theirs there.
+  [[nodiscard]] bool is_settled() const noexcept { return column_perfs_ != 0; }
+
   // Whether the label of a sample fills its columns, and its text depends on nothing but this converter.
   [[nodiscard]] bool fills_columns(LabelPoint const* point, int perfs) const noexcept {
     return static_cast<unsigned>(perfs) < column_perfs_ && point && point->converter == this;
@@ -67,7 +83,7 @@ class LABELSBASE_API prefix_label : public variable_label {
   //
   //   prefix digit{count length} non-digit dd
   [[nodiscard]] bool has_columns(std::size_t length) const noexcept {
-    return column_perfs_ != 0 && length == std::size_t{prefix_length_} + count_length_ + 3;
+    return is_settled() && length == std::size_t{prefix_length_} + count_length_ + 3;
   }
 
   // Returns the text of a count and a frame within it, after the prefix of the point's converter. A `perf_digit`
@@ -89,13 +105,16 @@ class LABELSBASE_API prefix_label : public variable_label {
   // Sets both templates to prefix, count, "+" and `frames`.
   void set_count_templates(char const* frames) noexcept;
 
-  unsigned prefix_length_ = static_cast<unsigned>(-1);    // characters of the prefix
-  unsigned count_length_ = static_cast<unsigned>(-1);     // digits of the count
-  int count_maximum_ = 9;                                 // the largest count
-  char const* dummy_prefix_ = "";                         // what get_dummy_prefix returns
-  mutable char current_prefix_[longest_prefix + 1] = {};  // the prefix that the converter remembers
-  unsigned total_length_;                                 // characters of prefix and count together
-  labelsbase::film_gauge gauge_;                          // of the film, for the count
+  unsigned prefix_length_ = static_cast<unsigned>(-1);  // characters of the prefix
+  unsigned count_length_ = static_cast<unsigned>(-1);   // digits of the count
+  int count_maximum_ = 9;                               // the largest count
+  char const* dummy_prefix_ = "";                       // what get_dummy_prefix returns
+
+  // The prefix that the converter remembers.
+  alignas(labelsbase::prefix_block) mutable char current_prefix_[longest_prefix + 1] = {};
+
+  unsigned total_length_;         // characters of prefix and count together
+  labelsbase::film_gauge gauge_;  // of the film, for the count
 
  private:
   friend class keycode_label;
@@ -105,6 +124,18 @@ class LABELSBASE_API prefix_label : public variable_label {
   // Does what write_label does, with the converter's own separator, for a sample that fills its columns.
   LABELSBASE_LOCAL inline char const* write_columns(LabelPoint* point, int count, int frame,
                                                     int perf_digit = 0) const;
+
+  // The first characters of current_prefix_, which threads may read and write at once.
+  [[nodiscard]] auto remembered_block() const noexcept {
+    void* const first = current_prefix_;
+    return std::atomic_ref{*static_cast<labelsbase::prefix_block*>(first)};
+  }
+
+  // Remembers the first characters of a text, up to the length of the prefix.
+  LABELSBASE_LOCAL void remember_prefix(char const* text) const noexcept;
+
+  // Whether a whole prefix is remembered.
+  [[nodiscard]] LABELSBASE_LOCAL bool remembers_prefix() const noexcept;
 
   unsigned column_perfs_ = 0;  // samples from 0 up that fill their columns
 };

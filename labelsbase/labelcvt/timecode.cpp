@@ -166,9 +166,10 @@ void timecode_label::use_setting(timecode_facts const& facts) {
   init();
 }
 
+// In slow timecode, only sample 0 has the number of its frame.
 void timecode_label::settle_arithmetic() noexcept {
-  bool const has_columns = (format_ & Format_hours) && !(format_ & Format_slow_timecode);
-  plain_samples_ = has_columns ? static_cast<unsigned>(samples_per_day_) : 0;
+  auto const samples = static_cast<unsigned>(format_ & Format_slow_timecode ? 1 : samples_per_day_);
+  plain_samples_ = format_ & Format_hours ? samples : 0;
 }
 
 char const* timecode_label::type_str() const { return label_type_name(timecode_label_t); }
@@ -196,11 +197,31 @@ void timecode_label::remember(timecode_fields const& fields) noexcept {
 
 timecode_fields timecode_label::remembered() const noexcept { return {hours_, minutes_, seconds_, frames_}; }
 
-void timecode_label::sample_to_hmsf(int sample, bool& second_field) {
+timecode_fields timecode_label::fields_at(int sample, timecode_count const& count,
+                                          bool& second_field) const noexcept {
   bool const is_slow = (format_ & Format_slow_timecode) != 0;
   second_field = is_slow && (sample & 1) != 0;
   if (is_slow) sample /= 2;
-  remember(plain_count().split(wrap_into_day(sample, samples_per_day_)));
+  return count.split(wrap_into_day(sample, samples_per_day_));
+}
+
+timecode_fields timecode_label::split(int sample, bool& second_field) {
+  if (!reads_plainly()) {
+    sample_to_hmsf(sample, second_field);
+    return remembered();
+  }
+  auto const fields = fields_at(sample, count_, second_field);
+  remember(fields);
+  return fields;
+}
+
+int timecode_label::join(timecode_fields const& fields) {
+  remember(fields);
+  return reads_plainly() ? count_.join(fields) : hmsf_to_sample();
+}
+
+void timecode_label::sample_to_hmsf(int sample, bool& second_field) {
+  remember(fields_at(sample, plain_count(), second_field));
 }
 
 int timecode_label::hmsf_to_sample() { return plain_count().join(remembered()); }
@@ -219,8 +240,7 @@ int ntsc_drop_label::hmsf_to_sample() { return ntsc_drop.join(remembered()); }
 
 int timecode_label::get_abs_hmsf(int sample, short& h, short& m, short& s, short& f) {
   bool second_field = false;
-  sample_to_hmsf(sample, second_field);
-  auto const fields = remembered();
+  auto const fields = split(sample, second_field);
   h = static_cast<short>(fields.hours);
   m = static_cast<short>(fields.minutes);
   s = static_cast<short>(fields.seconds);
@@ -265,10 +285,10 @@ char const* timecode_label::write_any(LabelPoint* point, int sample) {
   }
 
   bool second_field = false;
-  sample_to_hmsf(sample, second_field);
+  auto const fields = split(sample, second_field);
   bool const is_slow = (format_ & Format_slow_timecode) != 0;
   char const separator = !is_slow ? separator_ : second_field ? ':' : '.';
-  put_fields(out, remembered(), format_, separator, frame_digits_);
+  put_fields(out, fields, format_, separator, frame_digits_);
   return point->text;
 }
 
@@ -305,7 +325,7 @@ int timecode_label::get_abs_sample(char const* text) {
   bool const is_read = read_fields(text + negative, format_, fields);
   remember(fields);
   if (!is_read) return negative ? unreadable_negative_sample : invalid_sample;
-  int const sample = hmsf_to_sample();
+  int const sample = join(fields);
   return negative ? wrap_negate(sample) : sample;
 }
 
@@ -323,7 +343,7 @@ int ntsc_drop_label::get_abs_sample(char const* text) {
   if (*text == '-') return 0;
   bool const is_read = read_fields(text, Format_hours, fields);
   remember(fields);
-  return is_read ? hmsf_to_sample() : invalid_sample;
+  return is_read ? join(fields) : invalid_sample;
 }
 
 int timecode_label::get_abs_sample_from_packed_string(char const* text) {
@@ -333,8 +353,7 @@ int timecode_label::get_abs_sample_from_packed_string(char const* text) {
   auto const seconds = in.number(2);
   auto const frames = in.number(frame_digits_);
   if (!hours || !minutes || !seconds || !frames) return invalid_sample;
-  remember({*hours, *minutes, *seconds, *frames});
-  return hmsf_to_sample();
+  return join({*hours, *minutes, *seconds, *frames});
 }
 
 int timecode_label::get_sample_span_from_packed_strings(char const* from, char const* to) {
@@ -358,8 +377,7 @@ unsigned timecode_label::sample_to_smpte_string(LabelPoint*, int sample) {
 [[gnu::noinline]] unsigned timecode_label::pack_any(int sample) {
   if (sample < 0 || is_special_sample(sample)) return 0;
   bool second_field = false;
-  sample_to_hmsf(sample, second_field);
-  return packed(remembered(), type() == ntsc_drop_label_t, bcd);
+  return packed(split(sample, second_field), type() == ntsc_drop_label_t, bcd);
 }
 
 unsigned timecode_label::get_abs_smpte_string(LabelPoint* point, int sample) {

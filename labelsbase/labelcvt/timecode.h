@@ -132,7 +132,19 @@ class LABELSBASE_API timecode_label : public variable_label {
   [[nodiscard]] bool reads_plainly() const noexcept { return plain_samples_ != 0; }
 
  private:
+  friend class ntsc_drop_label;
+
   LABELSBASE_LOCAL void use_setting(labelsbase::timecode_facts const& facts);
+
+  // Split a sample and join fields as sample_to_hmsf and hmsf_to_sample do. Where no class overrides those, the
+  // result does not pass through the scratch registers, so threads may convert side by side.
+  [[nodiscard]] LABELSBASE_LOCAL labelsbase::timecode_fields split(int sample, bool& second_field);
+  [[nodiscard]] LABELSBASE_LOCAL int join(labelsbase::timecode_fields const& fields);
+
+  // Returns the fields of a sample by a count.
+  [[nodiscard]] LABELSBASE_LOCAL labelsbase::timecode_fields fields_at(int sample,
+                                                                       labelsbase::timecode_count const& count,
+                                                                       bool& second_field) const noexcept;
 
   // Returns the count without drop-frame, by the modulus, which hosts' classes may set.
   [[nodiscard]] LABELSBASE_LOCAL labelsbase::timecode_count plain_count() const noexcept;
@@ -146,7 +158,7 @@ class LABELSBASE_API timecode_label : public variable_label {
   }
 
   labelsbase::timecode_count count_;
-  unsigned plain_samples_ = 0;
+  unsigned plain_samples_ = 0;  // samples from 0 up that split plainly; 0 if a class may override the arithmetic
   int frame_digits_ = 2;
   int typed_frames_ = 29;  // the frames of the template
 };

@@ -30,6 +30,9 @@
 // A start point, a length and a pitch: a plain value with open fields. Nothing here throws or reports. Out of
 // range means a special sample, ">>>>>>" or "<<<<<<", or the position 1e99. Sums and differences of samples wrap
 // at 32 bits.
+//
+// For one thread at a time, since queries write their texts into the label. Several threads may copy one label, if
+// none of them changes or asks it.
 class LABELSBASE_API Label {
  public:
   // The least size of a buffer for make_keep_string, including the terminator.
