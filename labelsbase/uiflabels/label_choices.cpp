@@ -77,10 +77,12 @@ struct every_choice_has_its_row {
 
 static_assert(every_choice_has_its_row<first_without_row()>::holds);
 
-// Returns the row of a choice, or null if it has none.
-VagueUIFLabelDef const* choice_of(VagueUIFLabel label) noexcept {
+constexpr VagueUIFLabelDef no_choice{uif_none, 12840, User_none, {Medium_none, Gen_unknown}, ""};
+
+// Returns the row of a choice, or no_choice if it has none.
+VagueUIFLabelDef const& choice_of(VagueUIFLabel label) noexcept {
   auto const row = std::ranges::find(found_choices, label, &VagueUIFLabelDef::label);
-  return row == found_choices.end() ? nullptr : &*row;
+  return row == found_choices.end() ? no_choice : *row;
 }
 
 }  // namespace
@@ -89,10 +91,7 @@ VagueUIFLabelDef const* choice_of(VagueUIFLabel label) noexcept {
 VagueUIFLabelDef::VagueUIFLabelDef(VagueUIFLabel, ResId, UserLabelType, char const*, MediumRollMedium,
                                    MediumRollGeneration) noexcept {}
 
-char const* uifLabel_to_config_str(VagueUIFLabel label) noexcept {
-  auto const* const choice = choice_of(label);
-  return choice ? choice->config : "";
-}
+char const* uifLabel_to_config_str(VagueUIFLabel label) noexcept { return choice_of(label).config; }
 
 VagueUIFLabel config_str_to_uifLabel(char const* config) noexcept {
   config = or_empty(config);
@@ -101,17 +100,11 @@ VagueUIFLabel config_str_to_uifLabel(char const* config) noexcept {
   return row == found_choices.end() ? uif_none : row->label;
 }
 
-ResId uifLabelText(VagueUIFLabel label) noexcept {
-  auto const* const choice = choice_of(label);
-  return choice ? choice->text : 12840;
-}
+ResId uifLabelText(VagueUIFLabel label) noexcept { return choice_of(label).text; }
 
-UserLabelType uifLabelType(VagueUIFLabel label) noexcept {
-  auto const* const choice = choice_of(label);
-  return choice ? choice->type : User_none;
-}
+UserLabelType uifLabelType(VagueUIFLabel label) noexcept { return choice_of(label).type; }
 
 MediumRollIdent const& uifLabelMedroll(VagueUIFLabel label) noexcept {
-  auto const* const choice = choice_of(label);
-  return choice ? choice->medroll : get_invalid_MediumRollIdent();
+  auto const& choice = choice_of(label);
+  return &choice == &no_choice ? get_invalid_MediumRollIdent() : choice.medroll;
 }
