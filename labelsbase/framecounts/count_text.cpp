@@ -7,6 +7,7 @@
 #include "labelsbase/counts/timecode_count.h"
 #include "labelsbase/framecounts/count_label_rows.h"
 #include "labelsbase/framecounts/pulldown.h"
+#include "labelsbase/framecounts/put_count.h"
 #include "labelsbase/support/digits.h"
 #include "labelsbase/support/text.h"
 
@@ -51,12 +52,7 @@ int read_timecode(char const* text, timecode_count const& count) noexcept {
 // Writes the timecode of a frame as hhmmssff. A frame up to a day out of the day moves into it. Returns 1, or 0
 // for a frame that 8 digits cannot show.
 int write_timecode(char* text, int frame_number, timecode_count const& count) noexcept {
-  auto const day = std::int64_t{count.labels_per_day()};
-  auto frame = std::int64_t{frame_number} - 1;
-  if (frame < 0)
-    frame += day;
-  else if (frame >= day)
-    frame -= day;
+  auto const frame = wrap_once(std::int64_t{frame_number} - 1, count.labels_per_day());
   auto const longest = std::int64_t{count.labels_per_hour()} * 100;
   if (!text || frame < 0 || frame >= longest) return 0;
 

@@ -97,15 +97,8 @@ int write_key_number(char* text, key_number number) noexcept {
 
 // Returns how many keys there are: 10 to the number of consecutive bits set in `digits` from bit 2 up.
 constexpr int keys_of(unsigned char digits) noexcept {
-  int keys = 1;
-  for (int bits = std::countr_one(static_cast<unsigned char>(digits >> 2)); bits > 0; --bits) keys *= 10;
-  return keys;
-}
-
-// Moves a frame up to a span out of the span into it.
-constexpr std::int64_t wrap_once(std::int64_t frame, std::int64_t span) noexcept {
-  if (frame < 0) return frame + span;
-  return frame >= span ? frame - span : frame;
+  auto const bits = std::countr_one(static_cast<unsigned char>(digits >> 2));
+  return static_cast<int>(powers_of_ten<unsigned>[static_cast<unsigned>(bits)]);
 }
 
 int read_three_perf(int* film, char* text, int phase, int* phase_out) noexcept {

@@ -1,4 +1,4 @@
-// Private: results of the frame counts: written only if all of them fit.
+// Private: results of the frame counts: written only if all of them fit, and moved into a span.
 #pragma once
 
 #include <cstdint>
@@ -17,6 +17,12 @@ constexpr int put_count(int* out, std::int64_t value) noexcept {
 constexpr int put_count(int* frame_out, std::int64_t frame, int* phase_out, std::int64_t phase) noexcept {
   if (!frame_out || !std::in_range<int>(frame) || !put_count(phase_out, phase)) return 0;
   return put_count(frame_out, frame);
+}
+
+// Moves a frame up to a span out of the span into it.
+constexpr std::int64_t wrap_once(std::int64_t frame, std::int64_t span) noexcept {
+  if (frame < 0) return frame + span;
+  return frame >= span ? frame - span : frame;
 }
 
 }  // namespace labelsbase

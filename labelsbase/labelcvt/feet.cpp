@@ -58,12 +58,12 @@ void foot_label::set_shape(char const* frames) noexcept {
 }
 
 int foot_label::feet_limit() const noexcept {
-  return static_cast<int>(int_powers_of_ten[static_cast<std::size_t>(std::clamp(feet_digits_, 0, 8)) + 1]);
+  return static_cast<int>(powers_of_ten<unsigned>[static_cast<std::size_t>(std::clamp(feet_digits_, 0, 8)) + 1]);
 }
 
 bool foot_label::fills_columns(film_place const& at) const noexcept {
   return feet_digits_ > 0 && feet_digits_ < 10 &&
-         static_cast<unsigned>(at.count) < int_powers_of_ten[static_cast<std::size_t>(feet_digits_)] &&
+         static_cast<unsigned>(at.count) < powers_of_ten<unsigned>[static_cast<std::size_t>(feet_digits_)] &&
          static_cast<unsigned>(at.frame) < 100;
 }
 

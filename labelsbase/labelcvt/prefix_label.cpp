@@ -28,10 +28,8 @@ bool has_whole_prefix(char const* prefix, std::size_t length) noexcept {
 }
 
 constexpr int largest_count(unsigned digits) noexcept {
-  if (digits >= 10) return std::numeric_limits<int>::max();
-  int power = 10;
-  for (unsigned i = 1; i < digits; ++i) power *= 10;
-  return power - 1;
+  if (digits >= powers_of_ten<unsigned>.size()) return std::numeric_limits<int>::max();
+  return static_cast<int>(powers_of_ten<unsigned>[std::max(digits, 1U)] - 1);
 }
 
 // Every type with a prefix fills its columns: its texts are written without looking for room.

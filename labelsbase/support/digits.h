@@ -3,8 +3,8 @@
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <cstring>
+#include <limits>
 
 #include "labelsbase/characters.h"
 
@@ -35,9 +35,10 @@ inline bool read_pair(char const* text, int& value) noexcept {
   return true;
 }
 
-// 1 to 10^9.
-inline constexpr auto int_powers_of_ten = [] {
-  std::array<unsigned, 10> powers{1};
+// The powers of ten that a type holds exactly: 1 to 10^9 for unsigned, 1 to 10^15 for double.
+template <class Number>
+inline constexpr auto powers_of_ten = [] {
+  std::array<Number, std::numeric_limits<Number>::digits10 + 1> powers{1};
   for (std::size_t i = 1; i < powers.size(); ++i) powers[i] = powers[i - 1] * 10;
   return powers;
 }();
@@ -70,9 +71,9 @@ inline void put_digits(char* out, unsigned value, int digits) noexcept {
 
 // Returns how many digits a number has; 1 for 0.
 [[nodiscard]] constexpr int digits_in(unsigned value) noexcept {
-  int digits = 1;
-  for (std::uint64_t power = 10; value >= power; power *= 10) ++digits;
-  return digits;
+  std::size_t digits = 1;
+  while (digits < powers_of_ten<unsigned>.size() && value >= powers_of_ten<unsigned>[digits]) ++digits;
+  return static_cast<int>(digits);
 }
 
 }  // namespace labelsbase

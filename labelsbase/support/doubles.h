@@ -8,7 +8,6 @@
 #include <cstring>
 #include <iterator>
 #include <limits>
-#include <optional>
 #include <string_view>
 #include <system_error>
 
@@ -20,14 +19,14 @@ namespace labelsbase {
 inline constexpr std::uint64_t ten_decimals = 10'000'000'000;
 
 // Returns a double in units of its tenth decimal, rounded to nearest, ties to even. Exact: a double is an integer
-// times a power of two. Returns nothing outside 2^-11 to 2^29, where 64 bits do not hold the units or the rest.
-[[nodiscard]] constexpr std::optional<std::uint64_t> in_ten_decimals(double value) noexcept {
+// times a power of two. Returns 0 outside 2^-11 to 2^29, where 64 bits do not hold the units or the rest.
+[[nodiscard]] constexpr std::uint64_t in_ten_decimals(double value) noexcept {
   __extension__ using wide = unsigned __int128;
   constexpr int mantissa_bits = 52;
   constexpr auto hidden_bit = std::uint64_t{1} << mantissa_bits;
   auto const bits = std::bit_cast<std::uint64_t>(value);
   auto const halvings = 1075 - static_cast<int>(bits >> mantissa_bits);  // below zero if the sign is set
-  if (halvings < 24 || halvings > 63) return {};
+  if (halvings < 24 || halvings > 63) return 0;
 
   wide const product = wide{(bits & (hidden_bit - 1)) | hidden_bit} * ten_decimals;
   auto const units = static_cast<std::uint64_t>(product >> halvings);
@@ -41,11 +40,11 @@ inline constexpr std::uint64_t ten_decimals = 10'000'000'000;
 // (write_keep_string).
 [[gnu::always_inline]] inline text_writer& put_fixed(text_writer& out, double value) noexcept {
   if (auto const units = in_ten_decimals(value)) {
-    auto const fraction = *units % ten_decimals;
+    auto const fraction = units % ten_decimals;
     char decimals[11] = {'.'};
     put_pair(decimals + 1, static_cast<int>(fraction / 100'000'000));
     put_digits(decimals + 3, static_cast<unsigned>(fraction % 100'000'000), 8);
-    return out.number(static_cast<int>(*units / ten_decimals)).put(std::string_view{decimals, sizeof decimals});
+    return out.number(static_cast<int>(units / ten_decimals)).put(std::string_view{decimals, sizeof decimals});
   }
   char digits[352];  // more than the largest double has
   auto const* const end = std::to_chars(digits, std::end(digits), value, std::chars_format::fixed, 10).ptr;
@@ -113,10 +112,14 @@ struct number_part {
   return {end, places * form.digit_weight + exponent};
 }
 
-// Reads any number behind its sign, as strtod does.
+// Reads any number as strtod does.
 //
-//   decimal | 0x hexadecimal | inf | infinity | nan
-[[nodiscard, gnu::noinline]] inline double read_any_number(char const* text, bool is_negative) noexcept {
+//   blanks [+|-] ( decimal | 0x hexadecimal | inf | infinity | nan ), in any case
+[[nodiscard, gnu::noinline]] inline double read_any_number(char const* text) noexcept {
+  while (is_blank(*text)) ++text;
+  bool const is_negative = *text == '-';
+  if (is_negative || *text == '+') ++text;
+
   auto const* form = &decimal_form;
   auto number = find_number(text, decimal_form);
   if (text[0] == '0' && to_upper(text[1]) == 'X') {
@@ -142,19 +145,10 @@ struct number_part {
   return is_negative ? -value : value;
 }
 
-inline constexpr double powers_of_ten[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6, 1e7,
-                                           1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14};
-
 // Reads a double as strtod does in the "C" locale, correctly rounded. Returns 0 if the text does not begin with a
 // number; an infinity for a number that is too large, and 0 for one that is too small.
-//
-//   blanks [+|-] ( decimal | 0x hexadecimal | inf | infinity | nan ), in any case
 [[nodiscard]] inline double read_double(char const* text) noexcept {
-  while (is_blank(*text)) ++text;
-  bool const is_negative = *text == '-';
-  if (is_negative || *text == '+') ++text;
-
-  // Nearly every number is digits [. digits] in up to 15 characters. Doubles hold such digits and such a power of
+  // Nearly every text is digits [. digits] in up to 15 characters. Doubles hold such digits and such a power of
   // ten exactly, so their quotient is correctly rounded.
   char const* next = text;
   std::uint64_t digits = 0;
@@ -162,14 +156,12 @@ inline constexpr double powers_of_ten[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6
     for (unsigned digit = 0; (digit = digit_value(*next)) < 10; ++next) digits = digits * 10 + digit;
   };
   take_digits();
-  bool const has_digits = next != text;
   if (*next == '.') ++next;
   char const* const fraction = next;
   take_digits();
-  char const after = to_upper(*next);
-  if (!has_digits || next - text > 15 || after == 'E' || after == 'X') return read_any_number(text, is_negative);
-  double const value = static_cast<double>(static_cast<std::int64_t>(digits)) / powers_of_ten[next - fraction];
-  return is_negative ? -value : value;
+  if (*next || next - text > 15) return read_any_number(text);
+  auto const decimals = static_cast<std::size_t>(next - fraction);
+  return static_cast<double>(static_cast<std::int64_t>(digits)) / powers_of_ten<double>[decimals];
 }
 
 }  // namespace labelsbase

@@ -49,14 +49,15 @@ class text_writer {
   // Writes a number as "%0*d" does: at least `width` characters, the sign included.
   text_writer& number(int value, int width = 0) noexcept {
     if (width <= 1 && value >= 0 && value < 10) return put(static_cast<char>('0' + value));
-    return signed_digits(value, value < 0 ? std::max(width, 1) - 1 : width);
+    if (value < 0) return signed_digits(value, std::max(width, 1) - 1);
+    return signed_digits(value, width > 0 ? width : digits_in(static_cast<unsigned>(value)));
   }
 
   // Writes a number as "%.*d" does: a sign if it is negative, then at least `digits` digits.
   text_writer& signed_digits(int value, int digits) noexcept {
     // Nearly every number fills its digits. A negative one is too large, as unsigned numbers go.
     bool const fills = digits > 0 && digits < 10 &&
-                       static_cast<unsigned>(value) < int_powers_of_ten[static_cast<std::size_t>(digits)] &&
+                       static_cast<unsigned>(value) < powers_of_ten<unsigned>[static_cast<std::size_t>(digits)] &&
                        last_ - next_ >= digits;
     if (fills) {
       put_digits(next_, static_cast<unsigned>(value), digits);
