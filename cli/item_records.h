@@ -34,7 +34,7 @@ template <typename Take>
     return for_each_item(given, io, [&](std::string_view text) -> problem {
       std::ranges::fill(found, missing);
       if (auto wrong = take(text, found)) return wrong;
-      records.write(row);
+      records.write_line(row);
       return std::nullopt;
     });
 

@@ -207,9 +207,9 @@ problem label_reader::read_as_library(std::string_view text, label_parts& out) {
 
 // What stands before the frames is closer in length to a count than to prefix and count.
 bool label_reader::lacks_prefix(std::string_view text) const noexcept {
-  if (std::ranges::none_of(text, is_digit)) return false;
+  if (text.starts_with(kind_.prefix) || std::ranges::none_of(text, is_digit)) return false;
   auto const length = std::min(text.find_last_of("+&"), text.size());
-  return !text.starts_with(kind_.prefix) && 2 * length < 2 * count_digits_ + prefix_length_;
+  return 2 * length < 2 * count_digits_ + prefix_length_;
 }
 
 // --- Writing ---

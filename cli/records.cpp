@@ -163,11 +163,7 @@ void record_writer::write(std::span<value const> row) {
   is_first_ = false;
 }
 
-void record_writer::write_line(std::span<value const> row) {
-  if (only_shown_ < row.size()) {
-    if (auto const* const text = std::get_if<std::string_view>(&row[only_shown_])) return out_.line(*text);
-    if (auto const* const number = std::get_if<std::int64_t>(&row[only_shown_])) return out_.line(*number);
-  }
+void record_writer::write_fields(std::span<value const> row) {
   std::string_view separator;
   for (std::size_t i = 0; i < row.size(); ++i) {
     bool const is_shown = fields_[i].heading && !std::holds_alternative<std::monostate>(row[i]);

@@ -87,8 +87,17 @@ class record_writer {
   void write(std::initializer_list<value> row) { write(std::span{row.begin(), row.size()}); }
   void write(std::span<value const> row);
 
+  // Writes a row as a line of text.
+  void write_line(std::span<value const> row) {
+    if (only_shown_ == row.size()) return write_fields(row);
+    auto const& shown = row[only_shown_];
+    if (auto const* const text = std::get_if<std::string_view>(&shown)) return out_.line(*text);
+    if (auto const* const number = std::get_if<std::int64_t>(&shown)) return out_.line(*number);
+    write_fields(row);
+  }
+
  private:
-  void write_line(std::span<value const> row);
+  void write_fields(std::span<value const> row);
   void write_object(std::span<value const> row);
   void write_separated(std::span<value const> row);
   void keep(std::span<value const> row);

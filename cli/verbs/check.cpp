@@ -1,7 +1,7 @@
 // check: what is wrong in decision lists, logs and sheets.
 
-#include <CLI/CLI.hpp>
 #include <array>
+#include <cmath>
 #include <memory>
 #include <span>
 

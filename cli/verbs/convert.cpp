@@ -9,6 +9,7 @@
 #include "cli/label_io.h"
 #include "cli/text.h"
 #include "labelcheck/sums.h"
+#include "labelsbase/counts/reciprocal.h"
 
 namespace cli {
 namespace {
@@ -57,17 +58,18 @@ exit_status show(arguments const& given, console& io) {
 
 exit_status read(arguments const& given, console& io) {
   auto const kind = find_label_kind(given.kind);
-  int const unit = samples_per_count(kind, given.perfs);
+  labelsbase::reciprocal const unit{samples_per_count(kind, given.perfs)};
   label_reader labels{kind, given.reading, io};
 
   return for_each_item(given.items, find_format(given.format), read_fields, io,
                        [&](std::string_view text, std::span<value> found) -> problem {
                          label_parts label;
                          if (auto wrong = labels.read(text, label)) return wrong;
-                         if (label.sample % unit != 0)
+                         int const count = unit.quotient(label.sample);
+                         if (count * unit.divisor() != label.sample)
                            return "lies within a frame, at perforation " + std::to_string(label.sample) +
                                   "; use --perfs to count perforations";
-                         found[0] = label.sample / unit;
+                         found[0] = count;
                          return std::nullopt;
                        });
 }

@@ -1,6 +1,5 @@
 // rewrite: other labels in a list, a log, a sheet or any text.
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <memory>
 #include <stdexcept>
