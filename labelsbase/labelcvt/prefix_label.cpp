@@ -88,7 +88,7 @@ void prefix_label::remember_prefix(char const* text) const noexcept {
   prefix_field fresh{};
   copy_prefix(fresh, text, prefix_length_);
   remembered_block().store(block_of(fresh), std::memory_order_relaxed);
-  for (auto i = sizeof(prefix_block); i < sizeof fresh; ++i)
+  for (auto i = sizeof(prefix_block); i <= std::min<std::size_t>(prefix_length_, longest_prefix); ++i)
     std::atomic_ref{current_prefix_[i]}.store(fresh[i], std::memory_order_relaxed);
 }
 
