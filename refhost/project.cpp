@@ -38,8 +38,10 @@ namespace Kiv {
 
 using refhost::project;
 
-// This host keeps no earlier revisions. Every revision returns the current rate.
-FrameRate CurrentProject::getFrameRate(int) { return project().frame_rate; }
+// This host keeps no earlier revisions: their rate is unknown.
+FrameRate CurrentProject::getFrameRate(int revision) {
+  return revision == 0 ? project().frame_rate : FrameRate_unknown;
+}
 
 bool CurrentProject::getUseDropFrameTimecode() { return project().drop_frame; }
 

@@ -117,11 +117,17 @@ TEST_F(Lists, AreRewrittenByteForByte) {
        "002  A  V  C  01:01:00:00 01:01:01:00 01:00:01;00 01:00:02;00\\n' | labels rewrite --from 29.97df --to 25",
        "FCM: NON-DROP FRAME\n001  A  V  C  01:00:00:02 01:00:01:00 01:00:00:02 01:00:01:00\nFCM: NON-DROP FRAME\n"
        "002  A  V  C  01:01:00:00 01:01:01:00 01:00:01:00 01:00:02:00\n",
-       "-:4:15: \"01:01:00:00\": line 3 says NON-DROP FRAME, and --from does not\n", 1},
+       "-:4:27: \"01:01:01:00\": line 3 says NON-DROP FRAME, and --from does not\nlabels: -: decision list, 4 "
+       "lines: 8 "
+       "labels found, 6 changed, 2 refused;",
+       1},
       {"printf '001 A V C 1:00:00:00 01:00:01:00 01:00:00:00 01:00:01:00\nSPLIT: AUDIO DELAY= 00:00:00:05\n' |"
        " labels rewrite --from 25 --to 50 --sync 01:00:00:00=10:00:00:00",
        "001 A V C 1:00:00:00 10:00:01:00 10:00:00:00 10:00:01:00\nSPLIT: AUDIO DELAY= 00:00:00:10\n",
        "-:1:11: \"1:00:00:00\": stands in the place of a label", 1},
+      {"printf '001 A V C 01:00:00:00 01:00:01:00 01:00:00:00 01:00:01:00\nM2 A 025 01:00:00:00\nM2 A -12.5 "
+       "01:00:00:00\n' | labels rewrite --from 25 --to 50 2>/dev/null | cut -d ' ' -f 3 | tail -2",
+       "050\n-25.0\n"},
       {"echo 'See 01:00:00:10, (01:00:00:11) 01:00:00:12-01:00:00:13; not 1.01.00.00.00, 00:00:01,000, "
        "x01:00:00:00' |"
        " labels rewrite --from 25 --to 50",

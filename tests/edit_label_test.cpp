@@ -57,7 +57,7 @@ double expected_sound(double fps, int transfer, int generation, int picture, int
 
 TEST(Pitch, OfSoundInSyncWithPicture) {
   std::map<int, double> const fps_of_type{{5, 25},  {6, 30},  {7, 30},  {8, 24},  {10, 24}, {20, 24}, {30, 24},
-                                          {31, 50}, {32, 60}, {42, 50}, {43, 60}, {44, 24}, {50, 24}};
+                                          {31, 50}, {32, 60}, {42, 50}, {43, 60}, {44, 24}, {50, 24}, {51, 24}};
   for (int const speed : {1, 3, 4}) {
     refhost::project_guard const project{{.film_speed = Kiv::FrameRate{speed}}};
     for (auto const& [type, fps] : fps_of_type)

@@ -65,6 +65,13 @@ TEST(HostClass, OfATypeWithoutFactsCountsPlainly) {
   }
 }
 
+TEST(HostClass, KeepsToTheColumnsOfItsCount) {
+  EXPECT_EQ((own_prefix{16, 4, 8, 4}.get_abs_sample("ABCD 1234")), 123);
+  own_prefix wide{16, 4, 100, 92};
+  wide.build_template();
+  EXPECT_EQ((LabelPoint{wide, 0}.label_template.text()), std::string(8, '?') + std::string(55, '9'));
+}
+
 // Film whose frames are twice as long.
 template <class Film>
 struct long_frames : Film {

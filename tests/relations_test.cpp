@@ -81,6 +81,7 @@ void expect_film(label_cvt& cvt, std::smatch const& part) {
       (std::array{frames, perfs, digits, prefix}));
   EXPECT_EQ(cvt.perfs_per_keyKode(), key && gauge != "352" && gauge != "358" ? per_key : 1);  // deliberate
   EXPECT_EQ(cvt.getFrameSeparator(), foot ? '\0' : key && narrow ? '&' : '+');
+  EXPECT_FALSE(cvt.isSpecialSlowTC());
   std::string const shape = (foot ? "-9999" : std::string(static_cast<std::size_t>(digits), '9')) +
                             (foot && !three ? "." : "+") + digits_up_to(frames - 1) + (three ? ".3" : "");
   auto const& facts = labelsbase::facts_of(type).film;
