@@ -116,7 +116,7 @@ MediumRoll::MediumRoll(MediumRollIdent const& key, configb* config) {
   char config_key[sizeof "MediumRoll" + identifier_text_size];
   text_writer{config_key}.put("MediumRoll").put(identifier);
 
-  char text[configb::text_size] = "";
+  char text[configb::text_size + 1] = "";  // terminated, whatever the host copies
   if (config->in(config_key, text) == 0) fill_from_string(text);
 }
 
