@@ -59,21 +59,53 @@ def measure(lines, tool, peer, folder):
                   flush=True)
 
 
-def start_up(tool):
-    """Prints what the tool does before its first line."""
-    command = [tool, "show", "25", "1"]
-    seconds = []
-    for _ in range(50):
-        work = subprocess.Popen(command, stdout=subprocess.DEVNULL, env={**os.environ, "LD_BIND_NOW": "1"})
-        _, work.returncode, usage = os.wait4(work.pid, 0)
-        seconds.append(usage.ru_utime + usage.ru_stime)
-    loader = subprocess.run(command, capture_output=True, text=True, check=True,
-                            env={**os.environ, "LD_BIND_NOW": "1", "LD_DEBUG": "statistics"}).stderr
-    looked_up = re.search(r"final number of relocations: (\d+)", loader)
-    sections = subprocess.run(["readelf", "-SW", tool], capture_output=True, text=True, check=True).stdout
-    constructors = re.search(r"\.init_array\s+INIT_ARRAY\s+\S+\s+\S+\s+(\S+)", sections)
-    print(f"\nstart of `labels show 25 1`: {sorted(seconds)[len(seconds) // 2] * 1000:.1f} ms of processor time, "
-          f"{looked_up[1]} symbols looked up, {int(constructors[1], 16) // 8} static constructors in the tool")
+def looked_up(command):
+    """Returns how many symbols the loader looks up for a program, and how many more it finds in its cache."""
+    debug = {**os.environ, "LD_BIND_NOW": "1", "LD_DEBUG": "statistics"}
+    said = subprocess.run(command, capture_output=True, text=True, check=True, env=debug).stderr
+    return [int(count) for count in re.findall(r"final number of relocations(?: from cache)?: (\d+)", said)]
+
+
+def static_constructors(binary):
+    """Returns how many a binary has, without the compiler's own."""
+    sections = subprocess.run(["readelf", "-SW", binary], capture_output=True, text=True, check=True).stdout
+    size = re.search(r"\.init_array\s+INIT_ARRAY\s+\S+\s+\S+\s+(\S+)", sections)[1]
+    return int(size, 16) // 8 - 1
+
+
+def own_symbols(library):
+    """Returns how many relocations of a library name a symbol."""
+    entries = subprocess.run(["readelf", "-rW", library], capture_output=True, text=True, check=True).stdout
+    return len(re.findall(r"R_X86_64_(?:64|GLOB_DAT|JUMP_SLOT) ", entries))
+
+
+def start_up(tool, folder):
+    """Prints what programs do before their first line, if the loader binds all symbols at once."""
+    empty = os.path.join(folder, "empty.c")
+    with open(empty, "w", encoding="ascii") as out:
+        out.write("int main(void) { return 0; }\n")
+    programs = {"an empty C program": [os.path.join(folder, "empty_c")],
+                "an empty C++ program": [os.path.join(folder, "empty_cpp")],
+                "labels show 25 1": [tool, "show", "25", "1"]}
+    subprocess.run(["cc", "-O2", empty, "-o", programs["an empty C program"][0]], check=True)
+    subprocess.run(["c++", "-x", "c++", "-O2", empty, "-Wl,--no-as-needed", "-o", programs["an empty C++ program"][0]],
+                   check=True)
+    print("\n| start of | ms of processor time | symbols looked up | from the cache |\n|---|---|---|---|")
+    for name, command in programs.items():
+        seconds = []
+        for _ in range(50):
+            work = subprocess.Popen(command, stdout=subprocess.DEVNULL, env={**os.environ, "LD_BIND_NOW": "1"})
+            _, work.returncode, usage = os.wait4(work.pid, 0)
+            seconds.append(usage.ru_utime + usage.ru_stime)
+        counts = " | ".join(map(str, looked_up(command)))
+        print(f"| {name} | {sorted(seconds)[len(seconds) // 2] * 1000:.1f} | {counts} |")
+    loaded = subprocess.run(["ldd", tool], capture_output=True, text=True, check=True).stdout
+    library = re.search(r"liblabelsbase\S* => (\S+)", loaded)
+    print(f"\nStatic constructors: {static_constructors(tool)} in the tool", end="")
+    if library:
+        print(f", {static_constructors(library[1])} in the library. "
+              f"The library's relocations name {own_symbols(library[1])} symbols", end="")
+    print(".")
 
 
 def main():
@@ -85,7 +117,7 @@ def main():
         source = os.path.join(os.path.dirname(os.path.abspath(__file__)), "tool_peer.cpp")
         subprocess.run(["c++", "-std=c++20", "-O3", source, "-o", peer], check=True)
         measure(int(sys.argv[2]) if len(sys.argv) == 3 else 10_000_000, tool, peer, folder)
-    start_up(tool)
+        start_up(tool, folder)
 
 
 if __name__ == "__main__":
