@@ -98,7 +98,7 @@ def try_all(faults, workers, write):
         copy_sources(ROOT, folder / "source")
     if of_programs:
         build = Build(ROOT, FOLDER / "programs", PROGRAMS, ["all"])
-        expect_no_failure(build, folders[0], ["labelsbase", "labelnames"])
+        expect_no_failure(build, folders[0], ["labelsbase", "lists", "labelnames"])
         try_in(build, folders, of_programs, write)
     if of_module:
         build = Build(ROOT, FOLDER / "module", MODULE, ["labelsbase_python"])

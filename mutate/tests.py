@@ -6,8 +6,6 @@ import sys
 
 from build import run
 
-REPLAYS = ("frame_counts", "keep_string", "label_check", "label_text", "lists", "number")
-
 
 def fixed_environment(trial):
     return {"LABELS_TOOL": str(trial.program("bin/labels")), "LD_LIBRARY_PATH": trial.libraries(), "LC_ALL": "C.UTF-8"}
@@ -84,16 +82,28 @@ class Python:
         return None if passed else f"pytest {first_failure(output).split('/')[-1]}".strip()
 
 
-TOOL = [Tool("cli_tests", "--gtest_fail_fast", seconds=5), Script("schemas.py", "bin/labels", [sys.executable])]
+def replays(*names):
+    return [Program(f"{name}_replay", seconds=60) for name in names]
+
+
+UNIT = [Program("labels_tests", "--gtest_fail_fast"), Program("poor_host_test", "--gtest_fail_fast")]
 C = [Program("c_interface_test"), Script("c/from_python.py", "c/liblabels_c.so", [sys.executable])]
-LIBRARY = [Program("labels_tests", "--gtest_fail_fast"), Program("poor_host_test", "--gtest_fail_fast"),
-           *(Program(f"{name}_replay") for name in REPLAYS)]
-SLOW = {"labelnames": [Program("names_replay", seconds=120)],
-        "labelsbase": [Script("exported_symbols.sh", "labelsbase/liblabelsbase.so"),
-                       Program("labels_sweeps", "--gtest_fail_fast", seconds=120)]}
-OF_ROOMS = {"cli": [*TOOL, *LIBRARY], "c": [*C, *LIBRARY, *TOOL], "python": [Python()]}
+TOOL = [Tool("cli_tests", "--gtest_fail_fast", seconds=5), Script("schemas.py", "bin/labels", [sys.executable])]
+ALL = [*UNIT, *replays("frame_counts", "keep_string", "label_check", "label_text", "number"), *C, *TOOL]
+
+# Only those that the room is linked into. Those that take long come last.
+OF_ROOMS = {
+    "c": C,
+    "cli": TOOL,
+    "labelcheck": [*UNIT, *replays("label_check"), *C, *TOOL],
+    "labelconvert": [*UNIT, *C, *TOOL],
+    "labelnames": [*UNIT, *C, *TOOL, *replays("names")],
+    "labelsbase": [*ALL, Script("exported_symbols.sh", "labelsbase/liblabelsbase.so"),
+                   Program("labels_sweeps", "--gtest_fail_fast", seconds=120)],
+    "lists": [*UNIT, *replays("lists"), *TOOL],
+    "python": [Python()],
+}
 
 
 def tests_of(room):
-    top = room.split("/")[0]
-    return OF_ROOMS.get(top, [*LIBRARY, *C, *TOOL, *SLOW.get(top, ())])
+    return OF_ROOMS.get(room.split("/")[0], ALL)

@@ -124,7 +124,10 @@ TEST_F(Lists, AreRewrittenByteForByte) {
       {"printf '001 A V C 1:00:00:00 01:00:01:00 01:00:00:00 01:00:01:00\nSPLIT: AUDIO DELAY= 00:00:00:05\n' |"
        " labels rewrite --from 25 --to 50 --sync 01:00:00:00=10:00:00:00",
        "001 A V C 1:00:00:00 10:00:01:00 10:00:00:00 10:00:01:00\nSPLIT: AUDIO DELAY= 00:00:00:10\n",
-       "-:1:11: \"1:00:00:00\": stands in the place of a label", 1},
+       "stands in the place of a label, but has not the form of --from\nlabels: -: decision list, 2 lines: 5 "
+       "labels "
+       "found, 4 changed, 1 refused",
+       1},
       {"printf '001 A V C 01:00:00:00 01:00:01:00 01:00:00:00 01:00:01:00\nM2 A 025 01:00:00:00\nM2 A -12.5 "
        "01:00:00:00\n' | labels rewrite --from 25 --to 50 2>/dev/null | cut -d ' ' -f 3 | tail -2",
        "050\n-25.0\n"},

@@ -65,6 +65,11 @@ bool writes_it(LabelPoint& point, std::string const& text, std::size_t frame_dig
   return has_colon && as_in_lists(text, frame_digits) == as_in_lists(point.text, frame_digits);
 }
 
+TEST(LabelCheck, NamesAnyFieldWithoutANameAsTheWhole) {
+  EXPECT_STREQ(field_name(field{static_cast<int>(field::whole) + 1}), "label");
+  EXPECT_STREQ(field_name(field{-1}), "label");
+}
+
 TEST(LabelCheck, ReadsWhatTheTypeWritesAndNothingElse) {
   for (auto const& facts : labelsbase::all_label_facts) {
     if (!facts.is_timecode()) continue;
