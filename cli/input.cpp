@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "cli/arguments.h"
+#include "labelsbase/counts/integers.h"
 #include "lists/encoding.h"
 
 namespace cli {
@@ -40,7 +41,7 @@ bool item_loop::next_operand() {
     io_.place = {"line", 0};
     return next();
   }
-  operand_.erase(operand_.find_last_not_of(" \t\r") + 1);
+  operand_.erase(labelsbase::wrap_add(operand_.find_last_not_of(" \t\r"), 1U));  // npos + 1 is 0
   text_ = operand_;
   is_refused_ = false;
   io_.place = {"argument", static_cast<std::int64_t>(next_operand_)};

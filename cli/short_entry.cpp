@@ -30,7 +30,8 @@ using field_texts = std::array<std::string, 4>;
 // Fills the fields with the digits of an entry, each of its width. Returns false if they do not fit.
 bool split(entry_form const& form, std::string_view text, field_texts& fields) {
   bool const has_separators = !all_digits(text);
-  for (std::size_t left = form.fields; left-- > 0;) {
+  for (std::size_t left = form.fields; left > 0;) {
+    --left;
     auto const width = form.widths[left];
     std::size_t size = 0;
     while (size < text.size() && is_digit(text[text.size() - size - 1]) && (has_separators || size < width))

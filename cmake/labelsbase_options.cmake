@@ -24,6 +24,7 @@ target_compile_options(labelsbase_options INTERFACE
 if(LABELSBASE_SANITIZE)
   target_compile_options(labelsbase_options INTERFACE
     -fsanitize=${LABELSBASE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer
+    $<$<CXX_COMPILER_ID:Clang>:-fsanitize-ignorelist=${PROJECT_SOURCE_DIR}/cmake/sanitize_ignored.txt>
     $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)  # g++ 12 mistakes instrumented standard functions
   target_compile_definitions(labelsbase_options INTERFACE _GLIBCXX_ASSERTIONS)
   target_link_options(labelsbase_options INTERFACE -fsanitize=${LABELSBASE_SANITIZE})

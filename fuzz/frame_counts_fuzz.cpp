@@ -1,14 +1,25 @@
-// Calls the frame counts with any label, phase and count. They must read a text as sscanf reads it, and write 8
-// characters or none.
+// Calls the frame counts with any label, phase and count. They must read a text as sscanf reads it, write 8
+// characters or none, read what they wrote, and change nothing that they refuse.
 
-#include <bit>
+#include <algorithm>
 
 #include "fuzz/fuzz_input.h"
 #include "labelsbase/framecounts.h"
+#include "labelsbase/framecounts/count_label_rows.h"
 
-extern int const fuzz_numbers = 11;
+extern int const fuzz_words = 11;
 
 namespace {
+
+// What every function takes.
+struct counting {
+  label_type label;
+  transfer_type transfer;
+  edit_type edit;
+  material_type material;
+  int phase, key_phase, drop, per_key;
+  unsigned char digits;
+};
 
 void demand_text_read_as_scanf_does(std::string text) {
   int frame = 0, h = 0, m = 0, s = 0, f = 0, key = 0, rest = 0;
@@ -23,39 +34,92 @@ void demand_text_read_as_scanf_does(std::string text) {
   demand(frame == key * 100 + rest + 1, "a key number is read as sscanf reads it", text);
 }
 
+// A text buffer that a function may write a label into.
+class label_buffer {
+ public:
+  label_buffer() { std::memcpy(buffer_.text(), unwritten, sizeof unwritten); }
+
+  [[nodiscard]] char* text() { return buffer_.text(); }
+
+  void demand_written(int status, std::string const& input) {
+    demand(status >= 0 && status <= 2, "the status is 0, 1 or 2", input);
+    buffer_.demand_whole(input);
+    if (status)
+      demand(std::strlen(text()) == 8, "a label has 8 characters", input);
+    else
+      demand(!std::memcmp(text(), unwritten, sizeof unwritten), "what is refused is not written", input);
+  }
+
+ private:
+  static constexpr char unwritten[labelsbase::count_text_size] = "before!!";
+  guarded<labelsbase::count_text_size> buffer_;
+};
+
+// Reads a label, and returns its frame. A refused label must leave the frame alone.
+int read_frames(counting const& how, std::string text, int unread) {
+  int frames = unread, key_phase = 0, phase = 0;
+  int const status = label_to_frames(text.data(), how.key_phase, &key_phase, how.phase, &phase, &frames, how.label,
+                                     how.drop, how.transfer, how.edit, how.per_key);
+  demand(status || frames == unread, "what is refused is not counted", text);
+  return frames;
+}
+
+// Returns how many frames from the first one are within the day, or within the first key.
+int frames_of_one_run(counting const& how) {
+  auto const form = labelsbase::count_label_row_of(how.label).form;
+  return form == labelsbase::text_form::timecode ? 24 * 3'600 * 24 : std::min(how.per_key, 21);
+}
+
+// Writes a frame. Without a pulldown, the same frame must be read.
+void demand_frame_written(counting const& how, int frames, std::string const& input) {
+  label_buffer out;
+  int key_phase = 0;
+  int const status = frames_to_label(out.text(), how.key_phase, &key_phase, how.phase, -1, frames, how.label,
+                                     how.drop, how.transfer, how.edit, how.per_key, how.digits);
+  out.demand_written(status, input);
+  if (status && how.transfer == Transfer_none && frames > 0 && frames <= frames_of_one_run(how))
+    demand(read_frames(how, out.text(), -1) == frames, "a written label is read back", out.text());
+}
+
+void demand_moved(counting const& how, std::string text, int count, double seconds) {
+  label_buffer out;
+  int key_phase = 0, phase = 0;
+  out.demand_written(
+      label_plus_frames(out.text(), &key_phase, &phase, text.data(), how.key_phase, how.phase, count, how.label,
+                        how.drop, how.per_key, how.digits, how.transfer, how.edit),
+      text);
+  label_buffer later;
+  later.demand_written(
+      label_plus_time(later.text(), &key_phase, &phase, text.data(), how.key_phase, how.phase, seconds, how.label,
+                      how.drop, how.per_key, how.material, how.transfer, how.edit, how.digits),
+      text);
+}
+
 }  // namespace
 
 int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
   fuzz_input input{data, size};
-  auto const label = static_cast<label_type>(input.number<std::uint32_t>() % 48);
-  auto const transfer = static_cast<transfer_type>(input.number<std::uint32_t>() % 9);
-  auto const edit = static_cast<edit_type>(input.number<std::uint32_t>() % 3);
-  auto const material = static_cast<material_type>(input.number<std::uint32_t>() % 4);
-  int const phase = input.number(), key_phase = input.number(), count = input.number(), drop = input.number();
-  int const per_key = input.number();
-  auto const digits = input.number<unsigned char>();
-  auto const seconds = static_cast<double>(std::bit_cast<float>(input.number()));
-  auto text = input.rest();
-  demand_text_read_as_scanf_does(text);
+  counting how{};
+  how.label = input.choice<label_type>(48);
+  how.transfer = input.choice<transfer_type>(9);
+  how.edit = input.choice<edit_type>(3);
+  how.material = input.choice<material_type>(4);
+  how.phase = input.number();
+  how.key_phase = input.number();
+  how.drop = input.number();
+  how.per_key = input.number();
+  how.digits = static_cast<unsigned char>(input.number());
+  int const count = input.number();
+  double const seconds = input.real();
+  auto const& text = input.text();
 
-  int frames = 0, key_phase_out = 0, phase_out = 0;
-  char out[] = "before!!guard";
-  auto const demand_label = [&](int status) {
-    demand(status >= 0 && status <= 2, "the status is 0, 1 or 2", text);
-    demand(std::string_view{out + 9, 4} == "uard", "nothing is written behind a label", text);
-    demand(std::strlen(out) == (status ? 8 : 13), "a label has 8 characters", text);
-    std::memcpy(out, "before!!guard", sizeof out);
-  };
-  (void)label_to_frames(text.data(), key_phase, &key_phase_out, phase, &phase_out, &frames, label, drop, transfer,
-                        edit, per_key);
-  for (int const tried : {frames, count})
-    demand_label(frames_to_label(out, key_phase, &key_phase_out, phase, -1, tried, label, drop, transfer, edit,
-                                 per_key, digits));
-  demand_label(label_plus_frames(out, &key_phase_out, &phase_out, text.data(), key_phase, phase, count, label,
-                                 drop, per_key, digits, transfer, edit));
-  demand_label(label_plus_time(out, &key_phase_out, &phase_out, text.data(), key_phase, phase, seconds, label,
-                               drop, per_key, material, transfer, edit, digits));
-  (void)video_frames_to_film_frames(count, &frames, phase, &phase_out, transfer);
-  (void)film_frames_to_video_frames(count, &frames, phase, key_phase, transfer);
+  demand_text_read_as_scanf_does(text);
+  demand_frame_written(how, read_frames(how, text, count), text);
+  demand_frame_written(how, count, text);
+  demand_moved(how, text, count, seconds);
+
+  int frames = 0, phase = 0;
+  (void)video_frames_to_film_frames(count, &frames, how.phase, &phase, how.transfer);
+  (void)film_frames_to_video_frames(count, &frames, how.phase, how.key_phase, how.transfer);
   return 0;
 }

@@ -1,10 +1,11 @@
-// Runs a fuzz target without the fuzzer: on the files named as arguments, or on inputs drawn at random, which are
-// the same in every run.
+// Runs a fuzz target without the fuzzer: on the files of a folder, and then on inputs drawn at random, which are
+// the same in every run; or on one file alone.
 
 #include <array>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <random>
@@ -66,29 +67,28 @@ constexpr std::array texts{
 class drawing {
  public:
   std::string input() {
-    std::string bytes;
-    for (int i = 0; i < fuzz_numbers; ++i) {
-      auto const number = this->number();
-      bytes.append(reinterpret_cast<char const*>(&number), sizeof number);
-    }
-    return bytes + text();
+    std::string input;
+    for (int i = 0; i < fuzz_words; ++i) input.append(number()).append(i + 1 < fuzz_words ? " " : "\n");
+    return input + text();
   }
 
  private:
   std::uint32_t below(std::size_t limit) { return static_cast<std::uint32_t>(random_() % limit); }
 
-  std::uint32_t number() {
-    constexpr std::uint32_t corners[] = {0,  1,      3,          4,          16,         24,        25,
-                                         64, 90'000, 0x7FFFFFFE, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
+  std::string number() {
+    constexpr char const* corners[] = {"0",           "1",     "3",     "4",           "16",           "24",
+                                       "25",          "64",    "90000", "2147483646",  "2147483647",   "-1",
+                                       "-2147483648", "1e300", "-0.04", "4294967.296", "0.0416666667", "-1e-9",
+                                       "nan",         "inf"};
     switch (below(4)) {
       case 0:
         return corners[below(std::size(corners))];
       case 1:
-        return below(70);
+        return std::to_string(below(70));
       case 2:
-        return below(6'000'000) - 3'000'000;
+        return std::to_string(static_cast<int>(below(6'000'000)) - 3'000'000);
       default:
-        return static_cast<std::uint32_t>(random_());
+        return std::to_string(static_cast<int>(random_()));
     }
   }
 
@@ -128,13 +128,22 @@ class drawing {
 }  // namespace
 
 int main(int argc, char** argv) {
+  namespace fs = std::filesystem;
   std::signal(SIGABRT, keep_input);
-  for (int i = 1; i < argc; ++i) {
-    std::ifstream file{argv[i], std::ios::binary};
-    if (!file) return std::fprintf(stderr, "cannot read %s\n", argv[i]), EXIT_FAILURE;
+  if (argc != 2) return std::fputs("usage: replay FOLDER | FILE\n", stderr), EXIT_FAILURE;
+
+  std::vector<fs::path> files;
+  bool const is_folder = fs::is_directory(argv[1]);
+  if (is_folder)
+    for (auto const& file : fs::directory_iterator{argv[1]}) files.push_back(file);
+  else
+    files.emplace_back(argv[1]);
+  for (auto const& path : files) {
+    std::ifstream file{path, std::ios::binary};
+    if (!file) return std::fprintf(stderr, "cannot read %s\n", path.c_str()), EXIT_FAILURE;
     run({std::istreambuf_iterator<char>{file}, {}});
   }
-  if (argc > 1) return EXIT_SUCCESS;
+  if (!is_folder) return EXIT_SUCCESS;
 
   drawing drawn;
   for (int i = 0; i < drawn_inputs; ++i) run(drawn.input());

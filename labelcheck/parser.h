@@ -8,6 +8,7 @@
 #include "labelcheck/read.h"
 #include "labelcheck/text.h"
 #include "labelsbase/characters.h"
+#include "labelsbase/counts/integers.h"
 
 namespace labelcheck {
 
@@ -61,7 +62,7 @@ class parser {
   // Returns how many digits come next. A quick parser expects them up to the last `characters`, and leaves it to
   // the step that reads them to refuse others.
   [[nodiscard]] std::size_t digits_before(std::size_t characters) const noexcept {
-    return explains ? digits_of(rest()).size() : rest().size() - characters;
+    return explains ? digits_of(rest()).size() : labelsbase::wrap_sub(rest().size(), characters);
   }
 
   // Reads `count` digits, and leaves what follows them alone.
@@ -96,7 +97,7 @@ class parser {
       for (int i = 1; i < count; ++i) {
         auto const digit = labelsbase::digit_value(*next_++);
         if (digit > 9) return false;
-        number = number * 10 + digit;
+        number = labelsbase::wrap_append_digit(number, digit);
       }
       value = static_cast<int>(number);
       return number <= static_cast<unsigned>(last);

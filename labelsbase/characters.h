@@ -6,6 +6,7 @@
 #pragma once
 
 #include "host/language.h"
+#include "labelsbase/counts/integers.h"
 
 namespace labelsbase {
 
@@ -28,7 +29,9 @@ namespace labelsbase {
 [[nodiscard]] constexpr bool is_printable(char c) noexcept { return c > ' ' && c <= '~'; }
 
 // Returns the value of a digit, 0 to 9, or a number above 9 for any other character.
-[[nodiscard]] constexpr unsigned digit_value(char c) noexcept { return static_cast<unsigned>(c) - '0'; }
+[[nodiscard]] constexpr unsigned digit_value(char c) noexcept {
+  return wrap_sub(static_cast<unsigned>(c), unsigned{'0'});
+}
 
 // Returns the capital of a lower-case letter, and any other character as it is.
 [[nodiscard]] constexpr char to_upper(char c) noexcept { return is_lower(c) ? static_cast<char>(c - 32) : c; }

@@ -83,7 +83,7 @@ class film_gauge {
   // Returns the place of a perforation where keys hold whole frames, rounding toward key 0.
   [[nodiscard]] constexpr film_place split_whole_frames(int perfs) const noexcept {
     if (perfs >= 0) return split_magnitude(static_cast<unsigned>(perfs));
-    auto const at = split_magnitude(0U - static_cast<unsigned>(perfs));
+    auto const at = split_magnitude(magnitude_of(perfs));
     return {wrap_negate(at.count), wrap_negate(at.frame), 0};
   }
 

@@ -1,9 +1,19 @@
-// Arithmetic on samples. Callers may hand in any 32-bit sample, so sums and products wrap at 32 bits by name.
+// Arithmetic that may wrap. Callers may hand in any 32-bit sample, so sums and products of samples wrap at 32 bits
+// by name. No other code wraps, not even unsigned numbers: the sanitizers stop at it.
 #pragma once
 
+#include <concepts>
 #include <cstdint>
+#include <type_traits>
 
 #include "labelsbase/samples.h"
+
+// Lets unsigned numbers wrap in a function, which clang's integer sanitizer otherwise reports.
+#ifdef __clang__
+#define LABELSBASE_WRAPS [[clang::no_sanitize("unsigned-integer-overflow")]]
+#else
+#define LABELSBASE_WRAPS
+#endif
 
 namespace labelsbase {
 
@@ -13,17 +23,17 @@ namespace labelsbase {
 }
 
 // Returns the sum of any two ints, wrapped at 32 bits.
-[[nodiscard]] constexpr int wrap_add(int a, int b) noexcept {
+LABELSBASE_WRAPS [[nodiscard]] constexpr int wrap_add(int a, int b) noexcept {
   return static_cast<int>(static_cast<unsigned>(a) + static_cast<unsigned>(b));
 }
 
 // Returns the difference a - b of any two ints, wrapped at 32 bits.
-[[nodiscard]] constexpr int wrap_sub(int a, int b) noexcept {
+LABELSBASE_WRAPS [[nodiscard]] constexpr int wrap_sub(int a, int b) noexcept {
   return static_cast<int>(static_cast<unsigned>(a) - static_cast<unsigned>(b));
 }
 
 // Returns the product of any two ints, wrapped at 32 bits.
-[[nodiscard]] constexpr int wrap_mul(int a, int b) noexcept {
+LABELSBASE_WRAPS [[nodiscard]] constexpr int wrap_mul(int a, int b) noexcept {
   return static_cast<int>(static_cast<unsigned>(a) * static_cast<unsigned>(b));
 }
 
@@ -32,6 +42,36 @@ namespace labelsbase {
 
 // Returns the magnitude of `value`. The smallest int is its own magnitude and stays negative.
 [[nodiscard]] constexpr int wrap_magnitude(int value) noexcept { return value < 0 ? wrap_negate(value) : value; }
+
+// Returns the magnitude of any int, from 0 to 2^31.
+LABELSBASE_WRAPS [[nodiscard]] constexpr unsigned magnitude_of(int value) noexcept {
+  return value < 0 ? 0U - static_cast<unsigned>(value) : static_cast<unsigned>(value);
+}
+
+// Returns the sum of two unsigned numbers, wrapped at their own width.
+template <std::unsigned_integral Number>
+LABELSBASE_WRAPS [[nodiscard]] constexpr Number wrap_add(Number a, std::type_identity_t<Number> b) noexcept {
+  return a + b;
+}
+
+// Returns the difference a - b of two unsigned numbers, wrapped at their own width.
+template <std::unsigned_integral Number>
+LABELSBASE_WRAPS [[nodiscard]] constexpr Number wrap_sub(Number a, std::type_identity_t<Number> b) noexcept {
+  return a - b;
+}
+
+// Returns the product of two unsigned numbers, wrapped at their own width.
+template <std::unsigned_integral Number>
+LABELSBASE_WRAPS [[nodiscard]] constexpr Number wrap_mul(Number a, std::type_identity_t<Number> b) noexcept {
+  return a * b;
+}
+
+// Returns a number with one more decimal digit behind it, wrapped at its own width.
+template <std::unsigned_integral Number>
+LABELSBASE_WRAPS [[nodiscard]] constexpr Number wrap_append_digit(Number number,
+                                                                  std::type_identity_t<Number> digit) noexcept {
+  return number * 10 + digit;
+}
 
 // Returns `value` without its fraction, or invalid_sample if that does not fit an int or is not a number.
 [[nodiscard]] constexpr int to_int(double value) noexcept {

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "host/language.h"
+#include "labelsbase/counts/integers.h"
 
 namespace labelsbase {
 
@@ -25,7 +26,7 @@ class reciprocal {
   // Returns dividend / divisor, rounded toward zero, for any int.
   [[nodiscard]] constexpr int quotient(int dividend) const noexcept {
     if (dividend >= 0) return static_cast<int>(quotient_of_magnitude(static_cast<unsigned>(dividend)));
-    return static_cast<int>(0U - quotient_of_magnitude(0U - static_cast<unsigned>(dividend)));
+    return wrap_negate(static_cast<int>(quotient_of_magnitude(magnitude_of(dividend))));
   }
 
   // Divides any magnitude.

@@ -68,7 +68,7 @@ class timecode_count {
   [[nodiscard]] constexpr timecode_fields split(int sample) const noexcept {
     if (sample >= 0) return split_from_zero(static_cast<unsigned>(sample));
     if (drop_frame_) return split_before_zero(sample);
-    auto const [hours, minutes, seconds, frames] = split_from_zero(0U - static_cast<unsigned>(sample));
+    auto const [hours, minutes, seconds, frames] = split_from_zero(magnitude_of(sample));
     return {-hours, -minutes, -seconds, -frames};
   }
 

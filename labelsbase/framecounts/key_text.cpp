@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "labelsbase/counts/integers.h"
 #include "labelsbase/framecounts/count_label_rows.h"
 #include "labelsbase/framecounts/count_text.h"
 #include "labelsbase/framecounts/pulldown.h"
@@ -72,7 +73,7 @@ key_number read_key_number(char* text) noexcept {
     if (text[length] == ' ') text[length] = '0';
     auto const digit = digit_value(text[length]);
     largest_digit = std::max(largest_digit, digit);
-    number = number * 10 + digit;
+    number = wrap_append_digit(number, digit);
   }
   if (length == 8 && text[8]) ++length;
 

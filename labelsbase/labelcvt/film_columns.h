@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "labelsbase/counts/integers.h"
 #include "labelsbase/labelcvt/prefix_label.h"
 #include "labelsbase/support/digits.h"
 
@@ -53,7 +54,7 @@ inline constexpr auto behind_prefix = [] {
 
 // Whether no character of a block is a terminator.
 [[nodiscard]] constexpr bool is_filled(prefix_block characters) noexcept {
-  return ((characters - 0x0101'0101'0101'0101) & ~characters & 0x8080'8080'8080'8080) == 0;
+  return (wrap_sub(characters, 0x0101'0101'0101'0101) & ~characters & 0x8080'8080'8080'8080) == 0;
 }
 
 }  // namespace labelsbase

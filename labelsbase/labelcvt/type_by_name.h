@@ -8,6 +8,7 @@
 #include <cstring>
 #include <string_view>
 
+#include "labelsbase/counts/integers.h"
 #include "labelsbase/labelcvt/label_facts.h"
 
 namespace labelsbase {
@@ -42,8 +43,9 @@ class types_by_name {
   [[nodiscard]] constexpr std::size_t slot_of(std::string_view name) const noexcept {
     word hash = 0;
     auto const last = name.size() - sizeof(word);
-    for (std::size_t at = 0; at < last; at += sizeof(word)) hash = (hash + word_at(&name[at])) * multiplier_;
-    hash = (hash + word_at(&name[last])) * multiplier_;
+    for (std::size_t at = 0; at < last; at += sizeof(word))
+      hash = wrap_mul(wrap_add(hash, word_at(&name[at])), multiplier_);
+    hash = wrap_mul(wrap_add(hash, word_at(&name[last])), multiplier_);
     return static_cast<std::size_t>(hash >> (64 - slot_bits));
   }
 

@@ -11,6 +11,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "labelsbase/counts/integers.h"
 #include "labelsbase/support/text.h"
 
 namespace labelsbase {
@@ -153,7 +154,7 @@ struct number_part {
   char const* next = text;
   std::uint64_t digits = 0;
   auto const take_digits = [&] {
-    for (unsigned digit = 0; (digit = digit_value(*next)) < 10; ++next) digits = digits * 10 + digit;
+    for (unsigned digit = 0; (digit = digit_value(*next)) < 10; ++next) digits = wrap_append_digit(digits, digit);
   };
   take_digits();
   if (*next == '.') ++next;

@@ -53,7 +53,7 @@ class text_writer {
     return signed_digits(value, width > 0 ? width : digits_in(static_cast<unsigned>(value)));
   }
 
-  // Writes a number as "%.*d" does: a sign if it is negative, then at least `digits` digits.
+  // Writes a number as "%.*d" does: a sign if it is negative, then at least `digits` digits, and at least one.
   text_writer& signed_digits(int value, int digits) noexcept {
     // Nearly every number fills its digits. A negative one is too large, as unsigned numbers go.
     bool const fills = digits > 0 && digits < 10 &&
@@ -80,7 +80,7 @@ class text_writer {
   // that callers stay short.
   [[gnu::noinline]] static char* put_any_digits(char* next, char* last, int value, int digits) noexcept {
     constexpr int most = 10;
-    auto const magnitude = value < 0 ? 0U - static_cast<unsigned>(value) : static_cast<unsigned>(value);
+    auto const magnitude = magnitude_of(value);
     if (value < 0 && next != last) *next++ = '-';
     for (; digits > most && next != last; --digits) *next++ = '0';
 
@@ -116,7 +116,8 @@ class text_reader {
       if (width != unlimited) --width;
     }
     if (width <= 0 || !is_digit(*next_)) return {};
-    return wrap_to_int(negative ? 0 - magnitude(width, largest + 1) : magnitude(width, largest));
+    int const number = wrap_to_int(magnitude(width, negative ? largest + 1 : largest));
+    return negative ? wrap_negate(number) : number;
   }
 
   // Returns the rest of the text, behind what was read.
@@ -150,7 +151,7 @@ class text_reader {
     std::uint64_t digit = digit_value(*digits);
     std::size_t length = 0;
     do {
-      value = value * 10 + digit;
+      value = wrap_append_digit(value, digit);
       digit = digit_value(digits[++length]);
     } while (digit < 10 && (width == unlimited || length < static_cast<std::size_t>(width)));
     next_ += length;
