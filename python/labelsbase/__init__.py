@@ -11,6 +11,7 @@ Samples are frames for timecode and film frames, and perforations for other film
 """
 from ._arrays import add, diff, is_valid, to_samples, to_text
 from ._convert import convert
+from ._core import __version__
 from ._counting import (FilmFrame, Option, VideoFrame, cel_to_clock, clock_to_cel, film_to_video, options, set_option,
                         video_to_film)
 from ._enums import Family, FrameRate, Generation, LabelType, Medium, Transfer
