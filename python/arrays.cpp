@@ -107,8 +107,9 @@ class code_point_texts {
 bool set_bytes(row<std::byte> const& items, py::ssize_t index, std::string_view text) noexcept {
   auto const width = static_cast<std::size_t>(items.item);
   if (text.empty() || text.size() > width) return false;
-  std::memcpy(items.at(index), text.data(), text.size());
-  std::memset(items.at(index) + text.size(), 0, width - text.size());
+  auto* const to = items.at(index);
+  std::memcpy(to, text.data(), text.size());
+  if (text.size() < width) std::memset(to + text.size(), 0, width - text.size());
   return true;
 }
 
@@ -121,7 +122,7 @@ bool set_code_points(row<std::byte> const& items, py::ssize_t index, std::string
     std::memcpy(to, &code_point, sizeof code_point);
     to += sizeof code_point;
   }
-  std::memset(to, 0, (width - text.size()) * sizeof(char32_t));
+  if (text.size() < width) std::memset(to, 0, (width - text.size()) * sizeof(char32_t));
   return true;
 }
 
@@ -145,15 +146,12 @@ py::ssize_t read_texts_of(label_t type, illegal_labels illegal, Texts texts, row
   return first_refused(samples.count, [&](py::ssize_t i) {
     auto const text = texts.at(i);
     auto const read = labelcheck::read(type, text);
-    auto const* label = std::get_if<labelcheck::reading>(&read);
-    std::optional<labelcheck::reading> illegal_label;
-    if (!label) {
-      illegal_label = read_illegal(std::get<labelcheck::refusal>(read), text, illegal, respelt);
-      if (illegal_label) label = &*illegal_label;
-    }
-    set_item(samples, i, label ? label->sample : labelsbase::invalid_sample);
-    if (refused.first) set_item(refused, i, label == nullptr);
-    return label || refused.first;
+    auto const* const label = std::get_if<labelcheck::reading>(&read);
+    auto const taken =
+        label ? std::optional{*label} : read_illegal(std::get<labelcheck::refusal>(read), text, illegal, respelt);
+    set_item(samples, i, taken ? taken->sample : labelsbase::invalid_sample);
+    if (refused.first) set_item(refused, i, !taken);
+    return taken || refused.first;
   });
 }
 

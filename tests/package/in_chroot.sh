@@ -6,9 +6,10 @@ set -euo pipefail
 packages=$(readlink -f "$1") work=$(mkdir -p "$2" && readlink -f "$2")
 tests=$(readlink -f "$(dirname "${BASH_SOURCE[0]}")/..")
 
-if [[ ! -e $work/base/usr/bin/cmake ]]; then
+if [[ ! -e $work/base/complete ]]; then
   rm -rf "$work/base"
-  debootstrap --variant=minbase --include=cmake,g++,make,pkg-config,python3 bookworm "$work/base"
+  debootstrap --variant=minbase --include=cmake,g++,make,pkg-config,python3-numpy bookworm "$work/base"
+  touch "$work/base/complete"
 fi
 root=$work/run
 rm -rf "$root"
@@ -27,6 +28,9 @@ files >/tmp/before
 set -x
 dpkg --install /packages/*.deb
 [[ $(labels show 30f-drop 1800) == '00:01:00;02' ]]
+python3 -c 'import labelsbase
+assert labelsbase.to_text("29.97df", [0, 1799, 1800, 17982])[3] == "00:10:00;00"'
+[[ -e /usr/share/doc/labelsbase-doc/html/index.html ]]
 python3 /tests/c/from_python.py liblabels_c.so.14
 cd /tmp
 gcc -std=c99 -o from_c /tests/c/c_interface_test.c $(pkg-config --cflags --libs labels_c)
@@ -38,7 +42,7 @@ for project in /tests/consumer /usr/share/doc/labelsbase-doc/examples; do
   (cd build && ctest --output-on-failure)
   rm -r build
 done
-dpkg --purge labels labelsbase-doc liblabelsbase-dev liblabelsbase14 liblabels-c14
+dpkg --purge labels python3-labelsbase labelsbase-doc liblabelsbase-dev liblabelsbase14 liblabels-c14
 set +x
 files | diff /tmp/before - && echo "purged without a trace"
 END_OF_USE
