@@ -25,5 +25,5 @@ cd /labels
 assert labelsbase.to_text("29.97df", [0, 1799, 1800, 17982])[3] == "00:10:00;00"'
 ./dev test
 END_OF_USE
-unshare --mount bash -euc 'mount -t proc proc "$0/proc"; exec chroot "$0" bash /use.sh' "$root"
+unshare --mount bash -euc 'mount -t proc proc "$0/proc"; exec env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root chroot "$0" bash /use.sh' "$root"
 rm -rf "$root"

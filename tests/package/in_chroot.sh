@@ -46,5 +46,5 @@ dpkg --purge labels python3-labelsbase labelsbase-doc liblabelsbase-dev liblabel
 set +x
 files | diff /tmp/before - && echo "purged without a trace"
 END_OF_USE
-unshare --mount bash -euc 'mount -t proc proc "$0/proc"; exec chroot "$0" bash /use.sh' "$root"
+unshare --mount bash -euc 'mount -t proc proc "$0/proc"; exec env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root chroot "$0" bash /use.sh' "$root"
 rm -rf "$root"
