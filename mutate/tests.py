@@ -86,9 +86,9 @@ def replays(*names):
     return [Program(f"{name}_replay", seconds=60) for name in names]
 
 
-UNIT = [Program("labels_tests", "--gtest_fail_fast"), Program("poor_host_test", "--gtest_fail_fast")]
+UNIT = [Program("labels_tests", "--gtest_break_on_failure"), Program("poor_host_test", "--gtest_break_on_failure")]
 C = [Program("c_interface_test"), Script("c/from_python.py", "c/liblabels_c.so", [sys.executable])]
-TOOL = [Tool("cli_tests", "--gtest_fail_fast", seconds=5), Script("schemas.py", "bin/labels", [sys.executable])]
+TOOL = [Tool("cli_tests", "--gtest_break_on_failure", seconds=5), Script("schemas.py", "bin/labels", [sys.executable])]
 ALL = [*UNIT, *replays("frame_counts", "keep_string", "label_check", "label_text", "number"), *C, *TOOL]
 
 # Only those that the room is linked into. Those that take long come last.
@@ -99,7 +99,7 @@ OF_ROOMS = {
     "labelconvert": [*UNIT, *C, *TOOL],
     "labelnames": [*UNIT, *C, *TOOL, *replays("names")],
     "labelsbase": [*ALL, Script("exported_symbols.sh", "labelsbase/liblabelsbase.so"),
-                   Program("labels_sweeps", "--gtest_fail_fast", seconds=120)],
+                   Program("labels_sweeps", "--gtest_break_on_failure", seconds=120)],
     "lists": [*UNIT, *replays("lists"), *TOOL],
     "python": [Python()],
 }
