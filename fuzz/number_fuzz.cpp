@@ -14,6 +14,8 @@ extern int const fuzz_words = 3;
 
 namespace {
 
+constexpr std::size_t longest_text = 352;  // room for the largest double, and for the widest number
+
 bool are_same(double a, double b) noexcept {
   if (std::signbit(a) != std::signbit(b)) return false;
   return a == b || (std::isnan(a) && std::isnan(b));
@@ -38,8 +40,9 @@ void demand_whole_number(std::string const& text, char const* format, int width)
 // Demands that `write` fills a buffer of each size as snprintf does.
 template <std::size_t size>
 void demand_written(auto const& write, char const* property, char const* format, auto... values) {
-  char expected[size];
-  std::snprintf(expected, size, format, values...);
+  char expected[longest_text];
+  std::snprintf(expected, sizeof expected, format, values...);
+  expected[size - 1] = '\0';
   guarded<size> buffer;
   labelsbase::text_writer out{buffer.text(), size};
   write(out);
@@ -63,10 +66,10 @@ void demand_number_written(int value, int width) {
 
 void demand_double_written(double value) {
   auto const fixed = [&](auto& out) { labelsbase::put_fixed(out, value); };
-  demand_written<400>(fixed, "a double is written as snprintf writes it", "%.10f", value);
+  demand_written<longest_text>(fixed, "a double is written as snprintf writes it", "%.10f", value);
   demand_written<9>(fixed, "a double is cut as snprintf cuts it", "%.10f", value);
 
-  char text[400], again[400];
+  char text[longest_text], again[longest_text];
   labelsbase::text_writer out{text}, out_again{again};
   labelsbase::put_fixed(out, value);
   labelsbase::put_fixed(out_again, labelsbase::read_double(text));
