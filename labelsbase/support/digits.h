@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "labelsbase/characters.h"
+#include "labelsbase/export.h"
 
 namespace labelsbase {
 
@@ -37,7 +38,7 @@ inline bool read_pair(char const* text, int& value) noexcept {
 
 // The powers of ten that a type holds exactly: 1 to 10^9 for unsigned, 1 to 10^15 for double.
 template <class Number>
-inline constexpr auto powers_of_ten = [] {
+LABELSBASE_LOCAL inline constexpr auto powers_of_ten = [] {
   std::array<Number, std::numeric_limits<Number>::digits10 + 1> powers{1};
   for (std::size_t i = 1; i < powers.size(); ++i) powers[i] = powers[i - 1] * 10;
   return powers;
