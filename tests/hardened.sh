@@ -4,7 +4,7 @@
 set -euo pipefail
 
 expect() { # FILE WHAT PATTERN OPTION...
-  readelf --wide "${@:4}" "$1" | grep -qE "$3" || { echo "$1: $2"; exit 1; }
+  grep -qE "$3" <<<"$(readelf --wide "${@:4}" "$1")" || { echo "$1: $2"; exit 1; }
 }
 
 for file in "$@"; do

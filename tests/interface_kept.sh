@@ -7,7 +7,7 @@ set -euo pipefail
 recorded=$(dirname "${BASH_SOURCE[0]}")/interface.abi.gz
 library=${!#}
 command -v abidiff >/dev/null || { echo "abidiff is not installed"; exit 77; }
-readelf --sections --wide "$library" | grep -q '\.debug_info' || { echo "$library has no debug information"; exit 77; }
+grep -q '\.debug_info' <<<"$(readelf --sections --wide "$library")" || { echo "$library has no debug information"; exit 77; }
 
 if [[ $1 == --update ]]; then
   abidw --no-corpus-path --no-comp-dir-path --no-show-locs "$library" | gzip -9n >"$recorded"
