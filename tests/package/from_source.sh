@@ -25,5 +25,8 @@ cd /labels
 assert labelsbase.to_text("29.97df", [0, 1799, 1800, 17982])[3] == "00:10:00;00"'
 ./dev test
 END_OF_USE
-unshare --mount bash -euc 'mount -t proc proc "$0/proc"; exec env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root chroot "$0" bash /use.sh' "$root"
+ln -sf pts/ptmx "$root/dev/ptmx"
+unshare --mount bash -euc 'mount -t proc proc "$0/proc"
+  mount -t devpts -o newinstance,ptmxmode=666 devpts "$0/dev/pts"
+  exec env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root chroot "$0" bash /use.sh' "$root"
 rm -rf "$root"
