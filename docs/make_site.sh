@@ -6,8 +6,14 @@ root=$(readlink -f "$(dirname "${BASH_SOURCE[0]}")/..")
 cd "$root"
 documents=({README,ARCHITECTURE,CONTRIBUTING,CHANGELOG,bench/README}.md docs/*.md)
 
-rm -rf build/docs
-docs/for_doxygen.py build/docs/source "${documents[@]}" docs/images \
+# Doxygen breaks links in a folder whose name has a blank.
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+cp docs/{Doxyfile,layout.xml,site.css} "$scratch"
+docs/for_doxygen.py "$scratch/source" "${documents[@]}" docs/images \
   host labelsbase labelcheck labelconvert labelnames c/include refhost/refhost.h
-(cd build/docs/source && doxygen "$root/docs/Doxyfile")
+(cd "$scratch/source" && doxygen ../Doxyfile)
+rm -rf build/docs
+mkdir -p build/docs
+mv "$scratch/html" build/docs
 docs/check_links.py build/docs/html "${documents[@]}"
