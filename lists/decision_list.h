@@ -12,7 +12,7 @@
 //   tracks     = any word: "V", "A", "AA/V", "A2", "B", "NONE"
 //   code-mode  = "FCM:" ( "DROP FRAME" | "NON-DROP FRAME" | "NON DROP FRAME" )
 //   speed      = "M2" reel number label                                      frames a second, with a sign
-//   channels   = "AUD" ( "3" | "4" | "3" "4" )                            more tracks of the event above
+//   channels   = "AUD" ( "3" | "4" )+                                    more tracks of the event above
 //   title      = "TITLE:" text
 //   remark     = any other line
 //

@@ -3,10 +3,9 @@
 
 usage: mutate.py [--count N] [--seed N] [--only PATH] [--workers N] [--again]
 
-Draws N faults (250) over all rooms, or over the files whose path begins with PATH. Works in build/mutate: faults.txt has each fault and its
-verdict. A run that was stopped goes on where it was; survivors are tried anew, and all faults with --again. Those that
-equivalent.txt explains are not tried. Fails if a
-fault survives that equivalent.txt does not explain.
+Draws N faults (250) over all rooms, or over the files whose path begins with PATH. Does not try those that
+equivalent.txt explains. Works in build/mutate: faults.txt has each fault and its verdict. A run that was stopped goes on
+where it was; it tries survivors again, and all faults with --again. Fails if a fault survives.
 """
 
 import argparse

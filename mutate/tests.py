@@ -98,7 +98,7 @@ OF_ROOMS = {
     "labelcheck": [*UNIT, *replays("label_check"), *C, *TOOL],
     "labelconvert": [*UNIT, *C, *TOOL],
     "labelnames": [*UNIT, *C, *TOOL, *replays("names")],
-    "labelsbase": [*ALL, Script("exported_symbols.sh", "labelsbase/liblabelsbase.so"),
+    "labelsbase": [*ALL, Script("memory_of_host.sh", "labelsbase/liblabelsbase.so"),
                    Program("labels_sweeps", "--gtest_break_on_failure", seconds=120)],
     "lists": [*UNIT, *replays("lists"), *TOOL],
     "python": [Python()],

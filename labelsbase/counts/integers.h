@@ -66,7 +66,7 @@ LABELSBASE_WRAPS [[nodiscard]] constexpr Number wrap_mul(Number a, std::type_ide
   return a * b;
 }
 
-// Returns a number with one more decimal digit behind it, wrapped at its own width.
+// Returns a number with one more decimal digit after it, wrapped at its own width.
 template <std::unsigned_integral Number>
 LABELSBASE_WRAPS [[nodiscard]] constexpr Number wrap_append_digit(Number number,
                                                                   std::type_identity_t<Number> digit) noexcept {
