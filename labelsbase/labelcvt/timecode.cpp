@@ -264,12 +264,16 @@ char const* timecode_label::sample_to_string(LabelPoint* point, int sample) {
   if (!point || !splits_plainly(sample)) return write_any(point, sample);
   char* out = point->text;
   if (has_sign_column(*point)) *out++ = ' ';
+  put_columns(out, sample);
+  return point->text;
+}
+
+inline void timecode_label::put_columns(char* out, int sample) noexcept {
   out[8] = separator_;
   auto const fields = count_.split_from_zero(static_cast<unsigned>(sample));
   remember(fields);
   put_time(out, fields);
   put_frames(out + 9, fields.frames, frame_digits_);
-  return point->text;
 }
 
 char const* timecode_label::write_any(LabelPoint* point, int sample) {
@@ -284,9 +288,13 @@ char const* timecode_label::write_any(LabelPoint* point, int sample) {
     report_negative(type());
   }
 
+  bool const is_slow = (format_ & Format_slow_timecode) != 0;
+  if (int const within = wrap_into_day(sample, samples_per_day_); !is_slow && splits_plainly(within)) {
+    put_columns(out.end(), within);
+    return point->text;
+  }
   bool second_field = false;
   auto const fields = split(sample, second_field);
-  bool const is_slow = (format_ & Format_slow_timecode) != 0;
   char const separator = !is_slow ? separator_ : second_field ? ':' : '.';
   put_fields(out, fields, format_, separator, frame_digits_);
   return point->text;
@@ -322,7 +330,8 @@ int timecode_label::get_abs_sample(char const* text) {
 [[gnu::noinline]] int timecode_label::read_any(char const* text) {
   timecode_fields fields;
   bool const negative = *text == '-';
-  bool const is_read = read_fields(text + negative, format_, fields);
+  bool const in_columns = negative && reads_plainly() && read_columns(text + 1, fields);
+  bool const is_read = in_columns || read_fields(text + negative, format_, fields);
   remember(fields);
   if (!is_read) return negative ? unreadable_negative_sample : invalid_sample;
   int const sample = join(fields);

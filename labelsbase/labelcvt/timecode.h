@@ -148,6 +148,9 @@ class LABELSBASE_API timecode_label : public variable_label {
 
   // Returns the count without drop-frame, by the modulus, which hosts' classes may set.
   [[nodiscard]] LABELSBASE_LOCAL labelsbase::timecode_count plain_count() const noexcept;
+
+  // Writes the label of a sample within the day, that splits plainly, in full columns.
+  LABELSBASE_LOCAL void put_columns(char* out, int sample) noexcept;
   LABELSBASE_LOCAL char const* write_any(LabelPoint* point, int sample);
   [[nodiscard]] LABELSBASE_LOCAL unsigned pack_any(int sample);
   [[nodiscard]] LABELSBASE_LOCAL int read_any(char const* text);
