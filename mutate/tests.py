@@ -51,6 +51,14 @@ class Tool(Program):
                 Program(self.name, *self.arguments, f"--gtest_filter=-{likely}", seconds=self.seconds).caught_by(trial))
 
 
+class Replay(Program):
+    """The seeds of a fuzz target, and inputs drawn at random."""
+
+    def caught_by(self, trial):
+        corpus = trial.build.source / "fuzz/corpus" / self.name
+        return Program(f"{self.name}_replay", corpus, seconds=self.seconds).caught_by(trial)
+
+
 class Script:
     """A test that looks at a program or library from outside."""
 
@@ -83,13 +91,18 @@ class Python:
 
 
 def replays(*names):
-    return [Program(f"{name}_replay", seconds=60) for name in names]
+    return [Replay(name, seconds=60) for name in names]
 
 
-UNIT = [Program("labels_tests", "--gtest_break_on_failure"), Program("poor_host_test", "--gtest_break_on_failure")]
+def gtest(name, seconds=10):
+    return Program(name, "--gtest_break_on_failure", seconds=seconds)
+
+
+UNIT = [gtest("labels_tests"), gtest("poor_host_test"), gtest("failing_host_test")]
 C = [Program("c_interface_test"), Script("c/from_python.py", "c/liblabels_c.so", [sys.executable])]
 TOOL = [Tool("cli_tests", "--gtest_break_on_failure", seconds=5), Script("schemas.py", "bin/labels", [sys.executable])]
-ALL = [*UNIT, *replays("frame_counts", "keep_string", "label_check", "label_text", "number"), *C, *TOOL]
+ALL = [*UNIT, *replays("frame_counts", "keep_string", "label_check", "label_text", "number", "roll_text", "template"), *C,
+       *TOOL]
 
 # Only those that the room is linked into. Those that take long come last.
 OF_ROOMS = {
@@ -98,8 +111,8 @@ OF_ROOMS = {
     "labelcheck": [*UNIT, *replays("label_check"), *C, *TOOL],
     "labelconvert": [*UNIT, *C, *TOOL],
     "labelnames": [*UNIT, *C, *TOOL, *replays("names")],
-    "labelsbase": [*ALL, Script("memory_of_host.sh", "labelsbase/liblabelsbase.so"),
-                   Program("labels_sweeps", "--gtest_break_on_failure", seconds=120)],
+    "labelsbase": [*ALL, *replays("host_converter"), Script("memory_of_host.sh", "labelsbase/liblabelsbase.so"),
+                   gtest("labels_sweeps", seconds=120), Program("labels_sweep", "--thin", seconds=300)],
     "lists": [*UNIT, *replays("lists"), *TOOL],
     "python": [Python()],
 }
