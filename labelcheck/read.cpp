@@ -38,7 +38,7 @@ template <label_t type>
 }
 
 template <int... types>
-constexpr std::array<answer (*)(std::string_view), numLabelCvts> readers_of(std::integer_sequence<int, types...>) {
+constexpr std::array<label_reader, numLabelCvts> readers_of(std::integer_sequence<int, types...>) {
   return {read_as<static_cast<label_t>(types)>...};
 }
 
@@ -47,9 +47,13 @@ constexpr auto readers = readers_of(std::make_integer_sequence<int, numLabelCvts
 
 }  // namespace
 
+label_reader reader_of(label_t type) noexcept {
+  return readers[static_cast<std::size_t>(is_label_type(type) ? type : null_label_t)];
+}
+
 answer read(label_t type, std::string_view text) {
   if (!is_label_type(type)) return refusal{.why = reason::no_labels, .type = type};
-  return readers[static_cast<std::size_t>(type)](text);
+  return reader_of(type)(text);
 }
 
 }  // namespace labelcheck

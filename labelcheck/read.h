@@ -103,6 +103,11 @@ struct refusal {
 // counts as the library's own converter does, which follows the host's setting.
 [[nodiscard]] std::variant<reading, refusal> read(label_t type, std::string_view text);
 
+// Returns the function that reads the labels of one type as `read` does, for loops over many. Without a label
+// type, it refuses every text.
+using label_reader = std::variant<reading, refusal> (*)(std::string_view text);
+[[nodiscard]] label_reader reader_of(label_t type) noexcept;
+
 // Returns the reason in words: "seconds run from 00 to 59". Does not repeat the text, the position or the nearest
 // label.
 [[nodiscard]] std::string explain(refusal const& refused);

@@ -5,10 +5,13 @@
 //   labelcheck::writer key{keycode_35_label_t, "KJ123456"};
 //   key.write(64)                               // "KJ1234560001+00"
 //   key.write(-1)                               // "": the sample has no label; range.h says why
+//   char text[11];
+//   drop.write(1800, text)                      // 11: the length of the label, which is in `text` now
 #pragma once
 
 #include <cstddef>
 #include <memory>
+#include <span>
 #include <string_view>
 
 #include "labelcheck/range.h"
@@ -31,7 +34,11 @@ class writer {
   explicit writer(label_t type, std::string_view prefix = "", label_style style = label_style::own);
 
   // Returns the label of a sample, or an empty text if it has none. Valid until the next call. Allocates nothing.
-  [[nodiscard]] std::string_view write(int sample);
+  [[nodiscard]] std::string_view write(int sample) { return {text_, write(sample, text_)}; }
+
+  // Writes the label of a sample to the start of `out`, without a terminator. Returns its length, or 0 if the
+  // sample has no label or the label has more characters than `out`, which may then hold some of them.
+  [[nodiscard]] std::size_t write(int sample, std::span<char> out);
 
  private:
   // A converter remembers what it last wrote. With one of their own, writers on several threads never mix up their
@@ -40,6 +47,7 @@ class writer {
   LabelPoint negative_;
   LabelPoint positive_;
   sample_range range_;
+  char text_[LabelPoint::text_length] = {};
   std::size_t exchange_digits_;  // behind the separator that exchange style replaces; 0 for other styles
 };
 

@@ -46,5 +46,6 @@ void add_arrays(pybind11::module_& module);
 void add_catalogue(pybind11::module_& module);
 void add_counting(pybind11::module_& module);
 void add_labels(pybind11::module_& module);
+void add_text_arrays(pybind11::module_& module);
 
 }  // namespace labels_python

@@ -8,4 +8,5 @@ PYBIND11_MODULE(_core, module) {
   labels_python::add_catalogue(module);
   labels_python::add_counting(module);
   labels_python::add_arrays(module);
+  labels_python::add_text_arrays(module);
 }

@@ -76,12 +76,26 @@ def test_out_is_filled_in_place():
         with pytest.raises(error):
             labels.to_text("25", [0, 1, 2], out=out)
 
-
     samples = np.zeros((2, 3), np.int32)
     labels.to_samples("25", ["00:00:00.07"] * 3, out=samples[1])
     assert samples.tolist() == [[0, 0, 0], [7, 7, 7]]
     with pytest.raises(TypeError):
         labels.to_samples("25", ["00:00:00.07"], out=np.zeros(1))
+
+
+def test_what_is_refused_late_in_a_long_array():
+    starts = np.zeros(1000, dtype=[("scene", "S1"), ("start", "U11")])["start"]
+    samples = np.arange(1000)
+    with pytest.raises(ValueError, match=r"samples\[777\]: -1 has no label"):
+        labels.to_text("29.97df", np.where(samples == 777, -1, samples), out=starts)
+    assert starts[776] == "00:00:25;26" and starts[777:].tolist() == [""] * 223
+    labels.to_text("29.97df", samples, out=starts)
+    starts[900] = "00:00:30;\u0130\u0130"  # their lowest bytes are those of "00"
+    read = np.zeros(1000, np.int32)
+    with pytest.raises(labels.LabelError, match=r"texts\[900\]"):
+        labels.to_samples("29.97df", starts, out=read)
+    assert read[:900].tolist() == list(range(900)) and read[901:].tolist() == [0] * 99
+    assert labels.is_valid("29.97df", starts).nonzero()[0].tolist() == [*range(900), *range(901, 1000)]
 
 
 DAY = 25 * 86400
