@@ -6,7 +6,7 @@ import ctypes
 import sys
 import time
 from concurrent.futures import ThreadPoolExecutor
-from typing import Callable
+from typing import Any, Callable
 
 import numpy as np
 
@@ -40,23 +40,57 @@ def seconds_of_each(works: list[Work], count: int, clock: Callable[[], float] = 
     return totals
 
 
+# Timecode in plain Python, as pipelines write and read it: 25 frames a second, and drop-frame, which leaves out two
+# labels at each minute but every tenth, 18 in ten minutes.
+
 def python_texts(samples: list[int]) -> list[str]:
-    """Write timecode of 25 frames as most pipelines do."""
     texts = []
     for sample in samples:
         rest, frames = divmod(sample, 25)
-        rest, second = divmod(rest, 60)
+        rest, seconds = divmod(rest, 60)
         hours, minutes = divmod(rest, 60)
-        texts.append(f"{hours:02}:{minutes:02}:{second:02}:{frames:02}")
+        texts.append(f"{hours:02}:{minutes:02}:{seconds:02}:{frames:02}")
     return texts
 
 
 def python_samples(texts: list[str]) -> list[int]:
     samples = []
     for text in texts:
-        hours, minutes, second, frames = text.split(":")
-        samples.append(((int(hours) * 60 + int(minutes)) * 60 + int(second)) * 25 + int(frames))
+        hours, minutes, seconds, frames = text.split(":")
+        samples.append(((int(hours) * 60 + int(minutes)) * 60 + int(seconds)) * 25 + int(frames))
     return samples
+
+
+def python_drop_texts(samples: list[int]) -> list[str]:
+    texts = []
+    for sample in samples:
+        tens, in_ten_minutes = divmod(sample, 17982)
+        sample += 18 * tens
+        if in_ten_minutes > 1:
+            sample += (in_ten_minutes - 2) // 1798 * 2
+        rest, frames = divmod(sample, 30)
+        rest, seconds = divmod(rest, 60)
+        hours, minutes = divmod(rest, 60)
+        texts.append(f"{hours:02}:{minutes:02}:{seconds:02};{frames:02}")
+    return texts
+
+
+def python_drop_samples(texts: list[str]) -> list[int]:
+    samples = []
+    for text in texts:
+        hours, minutes, seconds, frames = text.replace(";", ":").split(":")
+        all_minutes = int(hours) * 60 + int(minutes)
+        left_out = (all_minutes - all_minutes // 10) * 2
+        samples.append((all_minutes * 60 + int(seconds)) * 30 + int(frames) - left_out)
+    return samples
+
+
+def check_loops(name: str, write: Callable[[list[int]], list[str]], read: Callable[[list[str]], list[int]]) -> None:
+    """Compare the loops in Python with the module, over labels of the whole day."""
+    samples = np.arange(0, 2_000_000, 7, dtype=np.int32)
+    texts = write(samples.tolist())
+    if texts != labelsbase.to_text(name, samples, style="exchange").tolist() or read(texts) != samples.tolist():
+        sys.exit(f"the loops in Python and the module differ in labels of {name}")
 
 
 def on_threads(count: int, work: Work) -> Work:
@@ -72,33 +106,38 @@ def main() -> None:
     loops = ctypes.CDLL(sys.argv[1])
     count = int(sys.argv[2]) if len(sys.argv) > 2 else 10_000_000
     pointer, size = ctypes.c_void_p, ctypes.c_size_t
-    loops.write_labels.argtypes = loops.read_labels.argtypes = [ctypes.c_int, pointer, pointer, size, size]
+    for loop in (loops.write_bytes, loops.write_str, loops.read_bytes, loops.read_str):
+        loop.argtypes = [ctypes.c_int, pointer, pointer, size, size]
     samples = np.arange(count, dtype=np.int32) % 2_000_000
     back = np.zeros(count, np.int32)
     few = samples[:FEW].tolist()
-    spelt = python_texts(few)
 
     print(f"{count} labels\n\n| work | ms | times C++ | times faster than Python | two threads, times faster |\n"
           "|---|---|---|---|---|")
-    for name in ("25", "29.97df"):
+    for name, write_few, read_few in (("25", python_texts, python_samples),
+                                      ("29.97df", python_drop_texts, python_drop_samples)):
         number = labelsbase.find_type(name).type
-        in_bytes = np.zeros(count, "S11")
-        in_text = np.zeros(count, "U11")
-
-        def cpp_texts(at: slice) -> None:
-            loops.write_labels(number, samples[at].ctypes.data, in_bytes[at].ctypes.data, 11, at.stop - at.start)
-
-        def cpp_samples(at: slice) -> None:
-            loops.read_labels(number, in_bytes[at].ctypes.data, back[at].ctypes.data, 11, at.stop - at.start)
+        check_loops(name, write_few, read_few)
+        spelt = write_few(few)
 
         works: list[tuple[str, Work, Work, Work]] = []
-        for kind, texts in (("bytes", in_bytes), ("str", in_text)):
-            works += [
-                (f"samples to {kind}", lambda at, texts=texts: labelsbase.to_text(name, samples[at], out=texts[at]),
-                 cpp_texts, lambda at: python_texts(few)),
-                (f"{kind} to samples", lambda at, texts=texts: labelsbase.to_samples(name, texts[at], out=back[at]),
-                 cpp_samples, lambda at: python_samples(spelt)),
-            ]
+        for kind, dtype in (("bytes", "S11"), ("str", "U11")):
+            texts = np.zeros(count, dtype)
+
+            def write(at: slice, texts: np.ndarray = texts) -> None:
+                labelsbase.to_text(name, samples[at], style="exchange", out=texts[at])
+
+            def read(at: slice, texts: np.ndarray = texts) -> None:
+                labelsbase.to_samples(name, texts[at], out=back[at])
+
+            def cpp_write(at: slice, texts: np.ndarray = texts, loop: Any = getattr(loops, f"write_{kind}")) -> None:
+                loop(number, samples[at].ctypes.data, texts[at].ctypes.data, 11, at.stop - at.start)
+
+            def cpp_read(at: slice, texts: np.ndarray = texts, loop: Any = getattr(loops, f"read_{kind}")) -> None:
+                loop(number, texts[at].ctypes.data, back[at].ctypes.data, 11, at.stop - at.start)
+
+            works += [(f"samples to {kind}", write, cpp_write, lambda at: write_few(few)),
+                      (f"{kind} to samples", read, cpp_read, lambda at: read_few(spelt))]
         for work, arrays, cpp, python in works:
             one, plain, slow = seconds_of_each([arrays, cpp, python], count)
             slow *= count / (FEW * max(1, count // PART))
