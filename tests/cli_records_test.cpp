@@ -15,6 +15,7 @@ TEST_F(Tool, WritesRowsInEveryFormat) {
        "[\n{\"number\":19,\"name\":\"src_25p\",\"user_text\":\"25p\",\"rate_fps\":25,\"sample\":\"frame\","
        "\"label_type\":\"pal_label\",\"also_accepts\":\"20\"},\n]\n"},
       {"labels media --format xml", "", "labels: --format \"xml\": expected text, csv, tsv, json or jsonl\n", 2},
+      {"labels schema media | grep -c null", "4\n"},  // rate, sample, label type, also accepts
       {"labels schema rewrite", "", "COMMAND \"rewrite\": expected a command that has --format: ", 2},
   });
 }
