@@ -88,7 +88,7 @@ std::string expected_commands() {
 // Words the parser's error as the tool's own messages are worded.
 std::string what_is_wrong(CLI::App const& app, CLI::ParseError const& error) {
   auto const chosen = app.get_subcommands();
-  auto const words = app.remaining(true);
+  auto const words = app.remaining();
   bool const is_word_first = !words.empty() && !words.front().starts_with('-');
   if (chosen.empty() && is_word_first)
     return "unknown command " + cli::in_quotes(words.front()) + "; " + expected_commands() +

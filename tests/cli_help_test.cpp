@@ -57,9 +57,9 @@ TEST_F(Tool, CompletesAndDocumentsItsOwnDeclarations) {
        "\\fB\\-\\-format\\fR \\fItext|csv|tsv|json|jsonl\\fR\nHow to write results: json is an array, jsonl an "
        "object a "
        "line; 'labels schema' describes the fields. Default: text.\n"},
-      {"labels manual convert | sed -n '/SYNOPSIS/,+1p'",
+      {"labels manual convert | sed -n '/SYNOPSIS/,+1p; /^.SH [AO]/p'",
        ".SH SYNOPSIS\n\\fBlabels\\fR \\fBconvert\\fR \\fB\\-\\-from\\fR \\fITYPE\\fR "
-       "\\fB\\-\\-to\\fR \\fITYPE\\fR [\\fIOPTION\\fR...] [\\fILABEL\\fR...]\n"},
+       "\\fB\\-\\-to\\fR \\fITYPE\\fR [\\fIOPTION\\fR...] [\\fILABEL\\fR...]\n.SH ARGUMENTS\n.SH OPTIONS\n"},
       {"labels manual | sed -n 's/^.fBlabels.-\\([a-z]*\\).*/\\1/p' >a; labels help | sed -n 's/^  "
        "\\([a-z][a-z]*\\)  .*/\\1/p' "
        "| diff a -",
