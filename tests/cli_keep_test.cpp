@@ -6,13 +6,14 @@ namespace {
 
 TEST_F(Tool, ExplainsTheKeepStringsThatItWrites) {
   expect({
-      {"labels keep --write 25f --start 01:00:00.00 --length 250 --roll 20,2 | tee keep; labels keep <keep",
-       "LABEL_REV:1 pal_label  01:00:00.00 250 0.0400000000 1 MediumRollId 20,2\n"
+      {"labels keep --write 25f --start 01:00:00.00 --length 250 --pitch 0.05 --roll 20,2 | tee keep; labels keep "
+       "<keep",
+       "LABEL_REV:1 pal_label  01:00:00.00 250 0.0500000000 1 MediumRollId 20,2\n"
        "revision          1\n"
        "type              pal_label\n"
        "start             01:00:00.00, sample 90000\n"
        "length            250, samples 250\n"
-       "seconds per unit  0.04, natural 0.04\n"
+       "seconds per unit  0.05, natural 0.04\n"
        "bounded           yes\n"
        "medium and roll   20,2, 25i,1stGen\n"},
       {"labels keep --write F353 --start KJ1234560001+00.1 --length 16 --pitch 0.05 --unbounded | tee keep;"
