@@ -117,6 +117,7 @@ TEST(PackedBcd, IsReadWithoutDropFrameCorrection) {
 // A converter of the host's own, whose day begins an hour late.
 struct late_label : pal_label {
   using pal_label::pal_label;
+  using timecode_label::hours_;
   void sample_to_hmsf(int sample, bool& second_field) override {
     pal_label::sample_to_hmsf(sample, second_field);
     ++hours_;
@@ -130,6 +131,8 @@ TEST(HostConverter, KeepsItsOwnArithmetic) {
   EXPECT_STREQ(point.get_string(), " 01:00:01.00");
   EXPECT_EQ(late.get_abs_sample("01:00:01.00"), 25);
   EXPECT_EQ(late.get_abs_smpte_string(&point, 25), 0x01000100U);
+  EXPECT_EQ(late.get_abs_sample("07:08"), labelsbase::invalid_sample);
+  EXPECT_EQ(late.hours_, 7);  // what could be read
 }
 
 TEST(HostConverter, CountsAnyRate) {
