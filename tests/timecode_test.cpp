@@ -135,8 +135,9 @@ TEST(Deprecated, EntryPointsAnswerAndSaySo) {
     EXPECT_EQ(ntsc.get_abs_sample(-1.0), -30);
     EXPECT_EQ(shared(tc_24_label_t).get_V2tc(48), 48.0);
     EXPECT_EQ(shared(pal_label_t).get_V2tc(-50), -2.0);
+    EXPECT_EQ(Label{pal_label_t}.get_V2tc(50), 2.0);
   });
-  EXPECT_EQ(std::ranges::count(said, '\n'), 5);
+  EXPECT_EQ(std::ranges::count(said, '\n'), 6);
   EXPECT_TRUE(said.starts_with("assertion failed 0 at labelsbase/labelcvt line ")) << said;
 }
 
