@@ -136,6 +136,7 @@ TEST_F(Lists, AreRewrittenByteForByte) {
        " labels rewrite --from 25 --to 50",
        "See 01:00:00:20, (01:00:00:22) 01:00:00:24-01:00:00:26; not 1.01.00.00.00, 00:00:01,000, x01:00:00:00\n",
        "labels: -: text, 1 line: 4 labels found, 4 changed, 0 refused\n"},
+      {"echo KJ1234560123+07.2 | labels rewrite --from 35mm-3p --to feet35-3p", "0123+07.2\n", "1 changed, 0"},
       {"printf 'a 01:00:00:25\\tKJ1234560123+16\\n' | labels rewrite --from 25 --to 24; echo "
        "KJ1234560123+16,KJ1234560123+07 |"
        " labels rewrite --from 35mm --to feet35 2>&1",
