@@ -158,39 +158,14 @@ namespace medium_table {
   return no_rate;
 }
 
-// The compiler names the medium or the rate at fault as the argument of these templates.
-template <MediumRollMedium first_at_fault>
-struct every_medium_has_its_row {
-  static_assert(!is_enumerator<first_at_fault>(),
-                "this medium lacks its row in the table, or its row is out of order");
-  static constexpr bool holds = true;
-};
-
-template <MediumRollMedium first_at_fault>
-struct every_source_has_its_output {
-  static_assert(first_at_fault == Medium_none,
-                "this medium lacks its counterpart: a source and an output of one rate, scan and name");
-  static constexpr bool holds = true;
-};
-
-template <MediumRollMedium first_at_fault>
-struct every_medium_has_a_known_rate {
-  static_assert(first_at_fault == Medium_none, "the rate of this medium lacks its row in rate_facts.h");
-  static constexpr bool holds = true;
-};
-
-template <Kiv::FrameRate first_at_fault>
-struct every_rate_has_its_media {
-  static_assert(first_at_fault == no_rate,
-                "this rate lacks its progressive source and output in the table of media");
-  static constexpr bool holds = true;
-};
-
-static_assert(every_medium_has_its_row<first_without_row()>::holds);
+static_assert(has_no_name<first_without_row()>,
+              "this medium lacks its row in the table, or its row is out of order");
 static_assert(std::size(rows) == medium_count, "medium_count is one more than the last medium");
-static_assert(every_medium_has_a_known_rate<first_without_known_rate()>::holds);
-static_assert(every_source_has_its_output<first_without_counterpart()>::holds);
-static_assert(every_rate_has_its_media<first_rate_without_source()>::holds);
+static_assert(is_null<first_without_known_rate()>, "the rate of this medium lacks its row in rate_facts.h");
+static_assert(is_null<first_without_counterpart()>,
+              "this medium lacks its counterpart: a source and an output of one rate, scan and name");
+static_assert(is_null<first_rate_without_source()>,
+              "this rate lacks its progressive source and output in the table of media");
 
 }  // namespace medium_table
 }  // namespace labelsbase

@@ -80,15 +80,9 @@ inline constexpr auto count_label_rows_by_number = [] {
   return count_label_rows_by_number[std::min(static_cast<std::size_t>(static_cast<unsigned>(label)), empty_row)];
 }
 
-// The compiler names the label type at fault as the argument of this template.
-template <label_type first_at_fault>
-struct every_count_label_has_its_row {
-  static_assert(!is_enumerator<first_at_fault>(), "this label type lacks its row in count_label_rows.h");
-  static constexpr bool holds = true;
-};
-
 constexpr bool has_row(label_type label) noexcept { return count_label_row_of(label).form != text_form::unknown; }
 
-static_assert(every_count_label_has_its_row<first_enumerator_without<label_type, 64>(has_row)>::holds);
+static_assert(has_no_name<first_enumerator_without<label_type, 64>(has_row)>,
+              "this label type lacks its row in count_label_rows.h");
 
 }  // namespace labelsbase

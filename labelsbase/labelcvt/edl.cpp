@@ -4,6 +4,7 @@
 
 #include "labelsbase/labelcvt/label_facts.h"
 #include "labelsbase/labelcvt/label_types.h"
+#include "labelsbase/support/enumerators.h"
 #include "labelsbase/support/text.h"
 
 using namespace labelsbase;
@@ -37,14 +38,7 @@ consteval label_t first_with_the_name_of_another() {
   return null_label_t;
 }
 
-// The compiler names the type at fault as the argument of this template.
-template <label_t first_at_fault>
-struct every_exchange_name_means_one_type {
-  static_assert(first_at_fault == null_label_t, "another label type has an exchange name of this type");
-  static constexpr bool holds = true;
-};
-
-static_assert(every_exchange_name_means_one_type<first_with_the_name_of_another()>::holds);
+static_assert(is_null<first_with_the_name_of_another()>, "another label type has an exchange name of this type");
 
 }  // namespace
 

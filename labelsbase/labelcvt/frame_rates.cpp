@@ -10,28 +10,6 @@ using namespace labelsbase;
 
 namespace {
 
-// The compiler names the rate at fault as the argument of these templates.
-template <Kiv::FrameRate first_at_fault>
-struct every_rate_has_its_row {
-  static_assert(!is_enumerator<first_at_fault>(), "this rate lacks its row in rate_facts.h");
-  static constexpr bool holds = true;
-};
-
-template <Kiv::FrameRate first_at_fault>
-struct every_rate_has_its_timecode {
-  static_assert(first_at_fault == Kiv::FrameRate_unknown,
-                "this rate needs a timecode type that counts its nominal frames, and a rate with a row to be "
-                "counted as");
-  static constexpr bool holds = true;
-};
-
-template <label_t first_at_fault>
-struct every_timecode_of_a_rate_has_its_standard {
-  static_assert(first_at_fault == null_label_t,
-                "this label type needs a standard rate in label_facts.h whose timecode is this type");
-  static constexpr bool holds = true;
-};
-
 constexpr bool has_row(Kiv::FrameRate rate) noexcept { return facts_of(rate).rate == rate; }
 
 // 12.5 frames a second are counted in 12.
@@ -51,9 +29,13 @@ consteval label_t first_without_standard() {
   return null_label_t;
 }
 
-static_assert(every_rate_has_its_row<first_enumerator_without<Kiv::FrameRate, 256>(has_row)>::holds);
-static_assert(every_rate_has_its_timecode<first_without_timecode()>::holds);
-static_assert(every_timecode_of_a_rate_has_its_standard<first_without_standard()>::holds);
+static_assert(has_no_name<first_enumerator_without<Kiv::FrameRate, 256>(has_row)>,
+              "this rate lacks its row in rate_facts.h");
+static_assert(
+    is_null<first_without_timecode()>,
+    "this rate needs a timecode type that counts its nominal frames, and a rate with a row to be counted as");
+static_assert(is_null<first_without_standard()>,
+              "this label type needs a standard rate in label_facts.h whose timecode is this type");
 
 }  // namespace
 

@@ -281,15 +281,12 @@ namespace label_table {
   return static_cast<label_t>(type);
 }
 
-// The compiler names the type at fault as the argument of this template.
+// A concept, so that the compiler says which type is at fault.
 template <label_t first_at_fault>
-struct every_label_type_has_its_row {
-  static_assert(first_at_fault == numLabelCvts,
-                "this label type lacks its row in the table, or its row is out of order");
-  static constexpr bool holds = true;  // for the assertion below
-};
+concept every_label_type_has_its_row = first_at_fault == numLabelCvts;
 
-static_assert(every_label_type_has_its_row<first_without_row()>::holds);
+static_assert(every_label_type_has_its_row<first_without_row()>,
+              "this label type lacks its row in the table, or its row is out of order");
 
 }  // namespace label_table
 

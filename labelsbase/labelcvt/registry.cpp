@@ -79,21 +79,8 @@ using classes =
   return null_label_t;
 }
 
-// The compiler names the type at fault as the argument of these templates.
-template <label_t behind_the_last>
-struct every_label_type_is_counted {
-  static_assert(!is_enumerator<behind_the_last>(), "numLabelCvts is one more than the last label type");
-  static constexpr bool holds = true;
-};
-
-template <label_t first_at_fault>
-struct every_type_with_labels_has_a_class {
-  static_assert(first_at_fault == null_label_t, "this label type has labels, but its class is not in the list");
-  static constexpr bool holds = true;
-};
-
-static_assert(every_label_type_is_counted<label_t{numLabelCvts}>::holds);
-static_assert(every_type_with_labels_has_a_class<first_without_class()>::holds);
+static_assert(has_no_name<label_t{numLabelCvts}>, "numLabelCvts is one more than the last label type");
+static_assert(is_null<first_without_class()>, "this label type has labels, but its class is not in the list");
 
 maker maker_of(label_t type) noexcept {
   return is_label_type(type) ? classes::makers[static_cast<std::size_t>(type)] : nullptr;

@@ -9,6 +9,7 @@
 #include "labelsbase/labelcvt/label_facts.h"
 #include "labelsbase/labelcvt/label_types.h"
 #include "labelsbase/labelcvt/rate_facts.h"
+#include "labelsbase/support/enumerators.h"
 
 namespace labelsbase {
 
@@ -79,14 +80,7 @@ inline constexpr pitch_row pitch_rows[] = {
   return null_label_t;
 }
 
-// The compiler names the type at fault as the argument of this template.
-template <label_t first_at_fault>
-struct every_slowed_timecode_has_its_speeds {
-  static_assert(first_at_fault == null_label_t,
-                "this label type counts a rate with the 1000/1001 factor, but lacks its row in pitch_rows.h");
-  static constexpr bool holds = true;
-};
-
-static_assert(every_slowed_timecode_has_its_speeds<first_without_pitch_row()>::holds);
+static_assert(is_null<first_without_pitch_row()>,
+              "this label type counts a rate with the 1000/1001 factor, but lacks its row in pitch_rows.h");
 
 }  // namespace labelsbase

@@ -15,18 +15,26 @@ template <auto value>
   return name[name.rfind(key) + key.size()] != '(';
 }
 
+// What the assertions about tables ask of the first entry at fault. As these are concepts, the compiler says which
+// entry it is: g++ writes "value = Kiv::FrameRate_24", clang "(Kiv::FrameRate)1".
+//
+// Whether nothing is at fault: the value is 0, that of null_label_t, Medium_none and FrameRate_unknown.
+template <auto value>
+concept is_null = value == decltype(value){};
+
+// Whether nothing is at fault: the value is a number without an enumerator, behind the last one.
+template <auto value>
+concept has_no_name = !is_enumerator<value>();
+
 // Returns the first enumerator from 0 to `count` - 1 that `has` denies, or the value `count`, which should have no
 // name.
 template <typename Enum, int count>
 [[nodiscard]] consteval Enum first_enumerator_without(bool (*has)(Enum) noexcept) {
   return [has]<int... values>(std::integer_sequence<int, values...>) {
-    auto first = static_cast<Enum>(count);
-    ((first == static_cast<Enum>(count) && is_enumerator<static_cast<Enum>(values)>() &&
-              !has(static_cast<Enum>(values))
-          ? void(first = static_cast<Enum>(values))
-          : void()),
-     ...);
-    return first;
+    bool const is_named[] = {is_enumerator<static_cast<Enum>(values)>()...};
+    int value = 0;
+    while (value < count && (!is_named[value] || has(static_cast<Enum>(value)))) ++value;
+    return static_cast<Enum>(value);
   }
   (std::make_integer_sequence<int, count>{});
 }

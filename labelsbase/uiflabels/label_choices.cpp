@@ -68,14 +68,7 @@ consteval VagueUIFLabel first_without_row() {
   return static_cast<VagueUIFLabel>(number);
 }
 
-// The compiler names the choice at fault as the argument of this template.
-template <VagueUIFLabel first_at_fault>
-struct every_choice_has_its_row {
-  static_assert(!is_enumerator<first_at_fault>(), "this choice needs a row of its own in the table");
-  static constexpr bool holds = true;
-};
-
-static_assert(every_choice_has_its_row<first_without_row()>::holds);
+static_assert(has_no_name<first_without_row()>, "this choice needs a row of its own in the table");
 
 constexpr VagueUIFLabelDef no_choice{uif_none, 12840, User_none, {Medium_none, Gen_unknown}, ""};
 
