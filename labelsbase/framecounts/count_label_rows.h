@@ -16,50 +16,40 @@ namespace labelsbase {
 enum class text_form : unsigned char { unknown, timecode, keycode };
 
 struct count_label_row {
-  label_type label;
-  text_form form;
-  int frames_per_second;  // of timecode
-  int units_per_frame;    // of a key number: 4 if it counts perforations after the key, 1 if it counts frames
-  timecode_count count;   // of timecode, set up here and not in every conversion
-
-  constexpr count_label_row() noexcept : count_label_row{label_type{}, text_form::unknown, 0, 0} {}
-  constexpr count_label_row(label_type label_, text_form form_, int frames_per_second_,
-                            int units_per_frame_) noexcept
-      : label{label_},
-        form{form_},
-        frames_per_second{frames_per_second_},
-        units_per_frame{units_per_frame_},
-        count{frames_per_second_} {}
+  label_type label{};
+  text_form form = text_form::unknown;
+  timecode_count count{};   // of timecode, set up here and not in every conversion
+  int units_per_frame = 0;  // of a key number: 4 if it counts perforations after the key, 1 if it counts frames
 };
 
 // clang-format off
 inline constexpr count_label_row count_label_rows[] = {
-//  label                    form                frames/s  units/frame
-    {Label_timecode_30,      text_form::timecode, 30,      0},
-    {Label_timecode_25,      text_form::timecode, 25,      0},
-    {Label_timecode_30_b,    text_form::timecode, 30,      0},
-    {Label_timecode_24,      text_form::timecode, 24,      0},
-    {Label_timecode_25_b,    text_form::timecode, 25,      0},
-    {Label_timecode_24_b,    text_form::timecode, 24,      0},
-    {Label_timecode_25_c,    text_form::timecode, 25,      0},
-    {Label_keycode_frames,   text_form::keycode,   0,      1},
-    {Label_keycode_perfs,    text_form::keycode,   0,      4},
-    {Label_keycode_frames_b, text_form::keycode,   0,      1},
-    {Label_keycode_perfs_b,  text_form::keycode,   0,      4},
-    {Label_timecode_25_d,    text_form::timecode, 25,      0},
-    {Label_timecode_30_c,    text_form::timecode, 30,      0},
-    {Label_timecode_30_d,    text_form::timecode, 30,      0},
-    {Label_keycode_3perf,    text_form::keycode,   0,      1},
-    {Label_keycode_frames_c, text_form::keycode,   0,      1},
-    {Label_timecode_24_c,    text_form::timecode, 24,      0},
-    {Label_timecode_50,      text_form::timecode, 50,      0},
-    {Label_timecode_60,      text_form::timecode, 60,      0},
-    {Label_timecode_48,      text_form::timecode, 48,      0},
-    {Label_timecode_50_b,    text_form::timecode, 50,      0},
-    {Label_timecode_60_b,    text_form::timecode, 60,      0},
-    {Label_timecode_48_b,    text_form::timecode, 48,      0},
-    {Label_timecode_30_e,    text_form::timecode, 30,      0},
-    {Label_timecode_48_c,    text_form::timecode, 48,      0},
+//   label                   form                 frames a second     units a frame
+    {Label_timecode_30,      text_form::timecode, timecode_count{30}},
+    {Label_timecode_25,      text_form::timecode, timecode_count{25}},
+    {Label_timecode_30_b,    text_form::timecode, timecode_count{30}},
+    {Label_timecode_24,      text_form::timecode, timecode_count{24}},
+    {Label_timecode_25_b,    text_form::timecode, timecode_count{25}},
+    {Label_timecode_24_b,    text_form::timecode, timecode_count{24}},
+    {Label_timecode_25_c,    text_form::timecode, timecode_count{25}},
+    {Label_keycode_frames,   text_form::keycode,  {},                 1},
+    {Label_keycode_perfs,    text_form::keycode,  {},                 4},
+    {Label_keycode_frames_b, text_form::keycode,  {},                 1},
+    {Label_keycode_perfs_b,  text_form::keycode,  {},                 4},
+    {Label_timecode_25_d,    text_form::timecode, timecode_count{25}},
+    {Label_timecode_30_c,    text_form::timecode, timecode_count{30}},
+    {Label_timecode_30_d,    text_form::timecode, timecode_count{30}},
+    {Label_keycode_3perf,    text_form::keycode,  {},                 1},
+    {Label_keycode_frames_c, text_form::keycode,  {},                 1},
+    {Label_timecode_24_c,    text_form::timecode, timecode_count{24}},
+    {Label_timecode_50,      text_form::timecode, timecode_count{50}},
+    {Label_timecode_60,      text_form::timecode, timecode_count{60}},
+    {Label_timecode_48,      text_form::timecode, timecode_count{48}},
+    {Label_timecode_50_b,    text_form::timecode, timecode_count{50}},
+    {Label_timecode_60_b,    text_form::timecode, timecode_count{60}},
+    {Label_timecode_48_b,    text_form::timecode, timecode_count{48}},
+    {Label_timecode_30_e,    text_form::timecode, timecode_count{30}},
+    {Label_timecode_48_c,    text_form::timecode, timecode_count{48}},
 };
 // clang-format on
 

@@ -19,7 +19,7 @@ constexpr timecode_count film_count{24};
 constexpr timecode_count drop_frame_count{30, true};
 
 constexpr timecode_count const& count_of(count_label_row const& row, int drop) noexcept {
-  return drop != 0 && row.frames_per_second == 30 ? drop_frame_count : row.count;
+  return drop != 0 && row.count.frames_per_second() == 30 ? drop_frame_count : row.count;
 }
 
 // Reads the fields of any text. From the first one that is not a number on, all are 0.
@@ -69,7 +69,7 @@ int write_timecode(char* text, int frame_number, timecode_count const& count) no
 
 int timecode_to_video_frames(int* video, char* text, label_type label, int drop) noexcept {
   auto const& row = count_label_row_of(label);
-  if (row.form != text_form::timecode || row.frames_per_second == 24 || !video) return 0;
+  if (row.form != text_form::timecode || row.count.frames_per_second() == 24 || !video) return 0;
   *video = read_timecode(text, count_of(row, drop));
   return 1;
 }

@@ -86,18 +86,15 @@ struct film_siblings {
 
 // What the labels of a type count: timecode or film, or neither for the bases of the families.
 struct label_form {
-  UserLabelType family = User_none;  // of the type
+  UserLabelType family = User_none;  // that a user chooses the type by
   timecode_facts timecode{};         // 0 frames per second where the type is not timecode
   film_facts film{};                 // 0 digits where the type is not film
 };
 
 // Everything about one label type.
-struct label_facts {
+struct label_facts : label_form {
   label_t type;                  // the number of the row
   char const* name;              // of the converter class; "" for types without one
-  UserLabelType family;          // that a user chooses it by
-  timecode_facts timecode;       // 0 frames per second where the type is not timecode
-  film_facts film;               // 0 digits where the type is not film
   exchange_names exchange;       // in edit decision lists
   film_siblings siblings;        // types of the same film in other families
   Kiv::FrameRate standard_rate;  // of the host's timecode standard; FrameRate_unknown where the type has none
@@ -106,11 +103,9 @@ struct label_facts {
   constexpr label_facts(label_t type_, char const* name_, label_form const& form,
                         exchange_names const& exchange_ = {}, film_siblings const& siblings_ = {},
                         Kiv::FrameRate standard_rate_ = Kiv::FrameRate_unknown) noexcept
-      : type{type_},
+      : label_form{form},
+        type{type_},
         name{name_},
-        family{form.family},
-        timecode{form.timecode},
-        film{form.film},
         exchange{exchange_},
         siblings{siblings_},
         standard_rate{standard_rate_} {}
