@@ -2,6 +2,5 @@
 #pragma once
 
 #include "labelsbase/labelcvt.h"
-#include "labelsbase/labelcvt/label_point.h"
 #include "labelsbase/labels/edit_label.h"
 #include "labelsbase/labels/label.h"

@@ -111,11 +111,9 @@ project_row const& project_row_of(Kiv::FrameRate rate) noexcept {
 
 }  // namespace
 
-namespace labelsbase {
-
-char const* medium_name(MediumRollMedium medium) noexcept { return is_medium(medium) ? row_of(medium).name : ""; }
-
-}  // namespace labelsbase
+char const* labelsbase::medium_name(MediumRollMedium medium) noexcept {
+  return is_medium(medium) ? row_of(medium).name : "";
+}
 
 Kiv::FrameRate getFrameRatefromMedium(MediumRollMedium medium) noexcept { return row_of(medium).rate; }
 

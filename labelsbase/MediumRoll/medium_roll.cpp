@@ -96,11 +96,8 @@ void MediumRollId_from_tokens(tokeniser& tokens, MediumRollIdent& out) {
 
 char const* MediumRollId_to_UserString(MediumRollIdent const& ident) noexcept {
   static thread_local char text[32];
-  return text_writer{text}
-      .put(row_of(ident.medium).user_word)
-      .put(',')
-      .put(generation_word(ident.generation))
-      .c_str();
+  text_writer out{text};
+  return out.put(row_of(ident.medium).user_word).put(',').put(generation_word(ident.generation)).c_str();
 }
 
 MediumRollIdent const& get_invalid_MediumRollIdent() noexcept { return invalid_ident; }

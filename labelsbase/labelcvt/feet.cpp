@@ -99,7 +99,7 @@ char const* foot_label::samples_to_feet(LabelPoint* point, int perfs) {
 int foot_label::feet_to_samples(char const* text) {
   text = behind_blanks(text);
   film_place at{};
-  if (!read_count_and_frame(text, 4, at.count, at.frame) || is_digit(text[7])) return read_any(text);
+  if (!read_count_and_frame(text, 4, at) || is_digit(text[7])) return read_any(text);
   return join(at);
 }
 

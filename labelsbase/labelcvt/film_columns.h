@@ -28,10 +28,10 @@ inline char* put_count_and_frame(char* out, int count, int digits, char separato
 
 // Reads a count of exactly `digits` digits, 1 to 9, any character but a digit, and two digits of frames, as in
 // "0123+07". Returns false if the text does not begin with these.
-[[nodiscard]] inline bool read_count_and_frame(char const* text, int digits, int& count, int& frame) noexcept {
-  if (!read_digits(text, digits, count)) return false;
+[[nodiscard]] inline bool read_count_and_frame(char const* text, int digits, film_place& at) noexcept {
+  if (!read_digits(text, digits, at.count)) return false;
   text += digits;
-  return *text && !is_digit(*text) && read_pair(text + 1, frame);
+  return *text && !is_digit(*text) && read_pair(text + 1, at.frame);
 }
 
 // By the length of a prefix: all bits of each character behind it.

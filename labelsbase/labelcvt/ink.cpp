@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <string_view>
 
 #include "labelsbase/labelcvt/film_columns.h"
 #include "labelsbase/samples.h"
@@ -11,34 +12,17 @@ using namespace labelsbase;
 
 namespace {
 
-// An ink number of 11 characters. A shorter text gets up to 4 zeros in front; a longer one loses its middle.
-class ink_text {
- public:
-  explicit ink_text(char const* text) noexcept : ink_text{text, std::strlen(text)} {}
+// The text of an ink number: a prefix of 4 characters, 4 digits, a separator and 2 digits of frames.
+using ink_text = char[11 + 1];
 
-  ink_text(char const* text, std::size_t length) noexcept {
-    text_writer out{text_};
-    if (length < whole) {
-      for (auto zeros = std::min<std::size_t>(whole - length, prefix); zeros > 0; --zeros) out.put('0');
-      out.put(text);
-    } else if (length > whole) {
-      for (std::size_t i = 0; i < prefix; ++i) out.put(text[i]);
-      out.put(text + length - rest);
-    } else {
-      out.put(text);
-    }
-    length_ = out.length();
-  }
-
-  [[nodiscard]] char const* c_str() const noexcept { return text_; }
-  [[nodiscard]] std::size_t length() const noexcept { return length_; }
-
- private:
-  static constexpr std::size_t whole = 11, prefix = 4, rest = 7;
-
-  char text_[whole + 1];
-  std::size_t length_;
-};
+// Writes an ink number of full length. A shorter text gets up to 4 zeros in front; a longer one loses its middle.
+text_writer write_whole(ink_text& label, std::string_view text) noexcept {
+  constexpr std::size_t prefix = 4, rest = 7, whole = prefix + rest;
+  text_writer out{label};
+  if (text.size() > whole) return out.put(text.substr(0, prefix)).put(text.substr(text.size() - rest));
+  for (auto zeros = std::min(whole - text.size(), prefix); zeros > 0; --zeros) out.put('0');
+  return out.put(text);
+}
 
 constexpr int frames_of(label_t type) noexcept { return facts_of(type).film.gauge.frames_per_count(); }
 constexpr int perfs_of(label_t type) noexcept { return facts_of(type).film.gauge.perfs_per_frame(); }
@@ -82,16 +66,15 @@ char const* ink_label::get_abs_string(LabelPoint* point, int perfs) {
 int ink_label::get_abs_sample(char const* text) {
   text = or_empty(text);
   auto const length = std::strlen(text);
-  int count = 0;
-  int frame = 0;
-  if (!has_columns(length) ||
-      !read_count_and_frame(text + prefix_length_, static_cast<int>(count_length_), count, frame))
-    return read_any(text, length);
-  return frame < modulus_ ? gauge_.join({count, frame, 0}) : invalid_sample;
+  film_place at{};
+  if (!has_columns(length) || !read_count_and_frame(text + prefix_length_, static_cast<int>(count_length_), at))
+    return read_any(text);
+  return at.frame < modulus_ ? gauge_.join(at) : invalid_sample;
 }
 
-[[gnu::noinline]] int ink_label::read_any(char const* text, std::size_t text_length) {
-  ink_text const label{text, text_length};
+[[gnu::noinline]] int ink_label::read_any(char const* text) {
+  ink_text buffer;
+  auto const label = write_whole(buffer, text);
   int const count = read_count(label.c_str(), label.length(), '\0');
   if (count < 0) return invalid_sample;
 
@@ -112,7 +95,8 @@ void ink_label::build_template() {
 }
 
 void ink_label::set_prefix(LabelPoint* point, char const* text) {
-  prefix_label::set_prefix(point, ink_text{or_empty(text)}.c_str());
+  ink_text label;
+  prefix_label::set_prefix(point, write_whole(label, or_empty(text)).c_str());
 }
 
 ink_35_label::ink_35_label() : concrete_label{frames_of(kind), perfs_of(kind)} {}

@@ -66,7 +66,7 @@ class LABELSBASE_API ink_label : public prefix_label {
 
   // Write and read labels that do not fill their columns, and those of hosts' classes.
   LABELSBASE_LOCAL char const* write_any(LabelPoint* point, int perfs);
-  [[nodiscard]] LABELSBASE_LOCAL int read_any(char const* text, std::size_t length);
+  [[nodiscard]] LABELSBASE_LOCAL int read_any(char const* text);
 
   void remember(labelsbase::film_place const& at) noexcept {
     count_ = at.count;

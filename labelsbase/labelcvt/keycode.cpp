@@ -87,14 +87,12 @@ int keycode_label::get_abs_sample(char const* text) {
 }
 
 int keycode_label::read_label(char const* text, std::size_t length, int perfs_left) {
-  int key = 0;
-  int frame = 0;
-  if (!has_columns(length) ||
-      !read_count_and_frame(text + prefix_length_, static_cast<int>(count_length_), key, frame))
+  film_place at{0, 0, perfs_left};
+  if (!has_columns(length) || !read_count_and_frame(text + prefix_length_, static_cast<int>(count_length_), at))
     return read_any(text, length, perfs_left);
-  key_ = key;
-  frame_ = frame;
-  return perfs_at({key, frame, perfs_left});
+  key_ = at.count;
+  frame_ = at.frame;
+  return perfs_at(at);
 }
 
 [[gnu::noinline]] int keycode_label::read_any(char const* text, std::size_t length, int perfs_left) {

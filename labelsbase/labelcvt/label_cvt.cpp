@@ -105,8 +105,4 @@ double dummy_label::get_V2tc(int) { return invalid_posn; }
 int dummy_label::get_abs_sample(double) { return invalid_sample; }
 void dummy_label::build_template() {}
 
-namespace labelsbase {
-
-constinit invalid_converter_storage invalid_converter;
-
-}  // namespace labelsbase
+constinit invalid_converter_storage labelsbase::invalid_converter;

@@ -5,12 +5,8 @@
 
 using labelsbase::facts_of;
 
-namespace labelsbase {
-
-char const* label_type_name(label_t type) noexcept { return facts_of(type).name; }
-UserLabelType user_label_type(label_t type) noexcept { return facts_of(type).family; }
-
-}  // namespace labelsbase
+char const* labelsbase::label_type_name(label_t type) noexcept { return facts_of(type).name; }
+UserLabelType labelsbase::user_label_type(label_t type) noexcept { return facts_of(type).family; }
 
 label_t label_t_to_foot_label_t(label_t type) noexcept { return facts_of(type).siblings.feet; }
 label_t label_t_to_ink_label_t(label_t type) noexcept { return facts_of(type).siblings.ink; }

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
-#include <string_view>
 #include <type_traits>
 
 #include "labelsbase/labelcvt/feet.h"
@@ -16,6 +15,7 @@
 #include "labelsbase/labelcvt/type_by_name.h"
 #include "labelsbase/support/broken.h"
 #include "labelsbase/support/enumerators.h"
+#include "labelsbase/support/memory.h"
 #include "labelsbase/support/text.h"
 
 using namespace labelsbase;
@@ -46,15 +46,12 @@ label_cvt* make() {
 using maker = label_cvt* (*)();
 
 template <class... Cvts>
-consteval auto makers_of() {
-  std::array<maker, numLabelCvts> makers{};
-  ((makers[Cvts::kind] = &make<Cvts>), ...);
-  return makers;
-}
-
-template <class... Cvts>
 struct class_list {
-  static constexpr auto makers = makers_of<Cvts...>();
+  static constexpr auto makers = [] {
+    std::array<maker, numLabelCvts> by_type{};
+    ((by_type[Cvts::kind] = &make<Cvts>), ...);
+    return by_type;
+  }();
 
   [[nodiscard]] static consteval bool has(label_t type) { return ((Cvts::kind == type) || ...); }
 };
@@ -82,21 +79,6 @@ using classes =
 static_assert(has_no_name<label_t{numLabelCvts}>, "numLabelCvts is one more than the last label type");
 static_assert(is_null<first_without_class()>, "this label type has labels, but its class is not in the list");
 
-maker maker_of(label_t type) noexcept {
-  return is_label_type(type) ? classes::makers[static_cast<std::size_t>(type)] : nullptr;
-}
-
-// Returns a new converter, or null if the host has no memory for it.
-label_cvt* make_or_null(maker make_one) noexcept {
-  try {
-    return make_one();
-  } catch (...) {
-    return nullptr;
-  }
-}
-
-label_cvt* new_invalid_converter() { return new dummy_label(); }
-
 using converters = std::array<label_cvt*, numLabelCvts>;
 
 // While a thread builds the registry, the host answers for its settings. A host that asks for a label then gets
@@ -107,7 +89,7 @@ converters build_converters() noexcept {
   converters made;
   is_building = true;
   std::ranges::transform(classes::makers, made.begin(), [](maker make_one) -> label_cvt* {
-    auto* const converter = make_one ? make_or_null(make_one) : nullptr;
+    auto* const converter = make_one ? null_on_throw(make_one) : nullptr;
     return converter ? converter : &invalid_converter.converter;
   });
   is_building = false;
@@ -142,6 +124,7 @@ label_t get_label_type(char const* name) {
 }
 
 label_cvt* make_any_label_cvt(label_t type) {
-  maker const make_one = maker_of(type);
-  return make_or_null(make_one ? make_one : new_invalid_converter);
+  auto const row = static_cast<std::size_t>(is_label_type(type) ? type : null_label_t);
+  maker const make_one = classes::makers[row];
+  return null_on_throw(make_one ? make_one : make<dummy_label>);
 }

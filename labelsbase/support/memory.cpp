@@ -8,19 +8,6 @@
 #include "labelsbase/host_allocated.h"
 
 namespace labelsbase {
-namespace {
-
-// Returns what `allocate` returns, or null if it throws.
-template <typename Allocate>
-void* null_on_throw(Allocate allocate) noexcept {
-  try {
-    return allocate();
-  } catch (...) {
-    return nullptr;
-  }
-}
-
-}  // namespace
 
 void* host_allocate(std::size_t bytes) {
   for (;;) {
@@ -42,14 +29,6 @@ void* host_allocate(std::size_t bytes, std::align_val_t alignment) {
   auto* const aligned = block + sizeof(void*) + (boundary - first % boundary) % boundary;
   std::memcpy(aligned - sizeof(void*), &block, sizeof block);
   return aligned;
-}
-
-void* host_allocate_or_null(std::size_t bytes) noexcept {
-  return null_on_throw([=] { return host_allocate(bytes); });
-}
-
-void* host_allocate_or_null(std::size_t bytes, std::align_val_t alignment) noexcept {
-  return null_on_throw([=] { return host_allocate(bytes, alignment); });
 }
 
 void host_free(void* block) noexcept { OS().allocator().free(block); }

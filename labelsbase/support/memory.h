@@ -13,9 +13,20 @@ void* host_allocate(std::size_t bytes);
 // Returns such a block at an address that is a multiple of `alignment`, a power of two.
 void* host_allocate(std::size_t bytes, std::align_val_t alignment);
 
-// Return null instead of throwing.
-void* host_allocate_or_null(std::size_t bytes) noexcept;
-void* host_allocate_or_null(std::size_t bytes, std::align_val_t alignment) noexcept;
+// Returns what `make` returns, or null if it throws.
+template <typename Make>
+auto null_on_throw(Make make) noexcept -> decltype(make()) {
+  try {
+    return make();
+  } catch (...) {
+    return nullptr;
+  }
+}
+
+// Returns a block as the forms above do, with an alignment or without, but null where they throw.
+inline void* host_allocate_or_null(std::size_t bytes, auto... alignment) noexcept {
+  return null_on_throw([=] { return host_allocate(bytes, alignment...); });
+}
 
 // Gives a block back; null is allowed. A block that was asked for with an alignment goes back through the second
 // form.

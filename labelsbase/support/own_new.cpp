@@ -7,9 +7,7 @@
 
 #include "labelsbase/support/memory.h"
 
-using labelsbase::host_allocate;
-using labelsbase::host_allocate_or_null;
-using labelsbase::host_free;
+using namespace labelsbase;
 
 void* operator new(std::size_t bytes) { return host_allocate(bytes); }
 void* operator new[](std::size_t bytes) { return host_allocate(bytes); }
