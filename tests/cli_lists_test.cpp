@@ -154,7 +154,7 @@ TEST_F(Lists, AreRewrittenByColumn) {
       {"labels rewrite --from 25 --to 50 --sync 01:00:00:00=10:00:00:00 log.ale 2>/dev/null | sed -n '3p;9p'",
        "FPS\t50\na\t10:00:00:00\t10:00:02:10\t00:00:02:10\t01:00:00:23\n"},
       {"sed 's/FPS\\t25/FPS\\t24/' log.ale | labels rewrite --from 25 --to 50 | sed -n 3p", "FPS\t24\n",
-       "labels: -:3:5: \"24\": the list's rate is not that of --from\n"},
+       "-:3:5: \"24\": the list's rate is not that of --from\n"},
       {"labels rewrite --from 25 --to 50 --column end log.ale 2>/dev/null | sed -n '3p;9p'",
        "FPS\t25\na\t01:00:00:00\t01:00:02:10\t00:00:02:05\t01:00:00:23\n"},
       {"labels rewrite --from 25 --to feet35 --column 2 --add-column Feet log.ale 2>/dev/null | sed -n '6p;9,10p'",
