@@ -44,12 +44,12 @@ void output::flush() noexcept {
   char const* next = buffer_.data();
   while (used_ > 0 && error_ == 0) {
     auto const written = ::write(fd_, next, used_);
-    if (written < 0) {
-      if (errno != EINTR) error_ = errno;
-      continue;
+    if (written >= 0) {
+      next += written;
+      used_ -= static_cast<std::size_t>(written);
+    } else if (errno != EINTR) {
+      error_ = errno;
     }
-    next += written;
-    used_ -= static_cast<std::size_t>(written);
   }
   used_ = 0;
 }
