@@ -20,8 +20,8 @@ TEST_F(Tool, WritesRowsInEveryFormat) {
   });
 }
 
-// The reader of the pipe waits, so that the tool takes long. The tool clears the line of its progress for messages, and
-// only for them.
+// The reader of the pipe waits, so that the tool takes long. The tool clears the line of its progress for
+// messages, and only for them.
 TEST_F(Tool, ShowsOnATerminalHowFarItHasReadAFile) {
   expect(
       {{"(seq 200000; echo x; seq 100000) >n; script -qec 'labels show 25 <n | (sleep 1; wc -l)' /dev/null | tr "
