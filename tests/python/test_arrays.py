@@ -67,9 +67,10 @@ def test_arrays_of_every_form(form, kind):
 
 def test_out_is_filled_in_place():
     records = np.zeros(3, dtype=[("scene", "S4"), ("start", "S14"), ("name", "U3")])
+    records["scene"], records["name"] = b"12A", "Ann"
     assert labels.to_text("25", [0, 25, -25], out=records["start"]).base is records
     assert records["start"].tolist() == [b"00:00:00.00", b"00:00:01.00", b"-00:00:01.00"]
-    assert records["scene"].tolist() == [b""] * 3 and records["name"].tolist() == [""] * 3
+    assert records["scene"].tolist() == [b"12A"] * 3 and records["name"].tolist() == ["Ann"] * 3
     for out, error in [(np.zeros(3, "S10"), ValueError), (np.zeros(2, "S11"), ValueError), (np.zeros(3), TypeError),
                        (np.zeros(3, ">U11"), TypeError), ([""] * 3, TypeError),
                        (np.broadcast_to(np.zeros(1, "S11"), 3), ValueError)]:
