@@ -149,7 +149,7 @@ class LABELSBASE_API timecode_label : public variable_label {
   // Returns the count without drop-frame, by the modulus, which hosts' classes may set.
   [[nodiscard]] LABELSBASE_LOCAL labelsbase::timecode_count plain_count() const noexcept;
 
-  // Writes the label of a sample within the day, that splits plainly, in full columns.
+  // Writes the label of a sample in full columns. The sample must split plainly.
   LABELSBASE_LOCAL void put_columns(char* out, int sample) noexcept;
   LABELSBASE_LOCAL char const* write_any(LabelPoint* point, int sample);
   [[nodiscard]] LABELSBASE_LOCAL unsigned pack_any(int sample);
